@@ -1,0 +1,106 @@
+#include <mintar/Money.hpp>
+
+#include <QDebug>
+#include <QLocale>
+#include <QString>
+
+#include <ostream>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+namespace mintar {
+
+namespace {
+
+// The amount without its sign, in the locale's digits.
+QString magnitude(QLocale const& locale, qint64 minorUnits, int decimals)
+{
+  auto whole =
+      minorUnits < 0 ? 0 - static_cast<quint64>(minorUnits) : static_cast<quint64>(minorUnits);
+  QString fraction;
+  for (int i = 0; i < decimals; ++i, whole /= 10) {
+    fraction.prepend(locale.toString(whole % 10));
+  }
+  return fraction.isEmpty() ? locale.toString(whole)
+                            : locale.toString(whole) + locale.decimalPoint() + fraction;
+}
+
+// How the locale arranges an amount (%1) and a currency symbol (%2). Qt formats only whole numbers
+// without rounding them to floating point, so one is formatted and taken out again.
+QString arrangement(QLocale const& locale, bool negative)
+{
+  QString const symbol(QChar(0x00A4));
+  return locale.toCurrencyString(negative ? -1 : 1, symbol)
+      .replace(locale.toString(1), QStringLiteral("%1"))
+      .replace(symbol, QStringLiteral("%2"));
+}
+
+QString symbolFor(QLocale const& locale, QString const& isoCode)
+{
+  return locale.currencySymbol(QLocale::CurrencyIsoCode) == isoCode ? locale.currencySymbol()
+                                                                    : isoCode;
+}
+
+} // namespace
+
+Money::Money() noexcept : currency_(QString()) {}
+
+Money::Money(Currency const& currency) noexcept : currency_(currency) {}
+
+Money::Money(Currency const& currency, qint64 minorUnits) noexcept
+    : currency_(currency), minorUnits_(minorUnits)
+{
+}
+
+Money& Money::operator=(Money const& other)
+{
+  if (!currency_.isoCode().isEmpty() && currency_ != other.currency_) {
+    throw std::invalid_argument("Cannot assign an amount of money in another currency.");
+  }
+  return assign(other);
+}
+
+Money& Money::assign(Money const& other) noexcept
+{
+  currency_ = other.currency_;
+  minorUnits_ = other.minorUnits_;
+  return *this;
+}
+
+Money& Money::assign(Money&& other) noexcept
+{
+  currency_ = std::move(other.currency_);
+  minorUnits_ = other.minorUnits_;
+  return *this;
+}
+
+std::ostream& operator<<(std::ostream& stream, Money const& money)
+{
+  auto const& isoCode = money.currency_.isoCode();
+  if (isoCode.isEmpty()) {
+    return stream;
+  }
+  QLocale const locale;
+  auto const amount = magnitude(locale, money.minorUnits_, money.currency_.decimals());
+  auto symbol = symbolFor(locale, isoCode);
+  auto format = arrangement(locale, money.minorUnits_ < 0);
+  if (symbol == isoCode) {
+    // Letters do not touch digits; a locale that keeps its symbol apart has its own space already.
+    QChar const noBreakSpace(0x00A0);
+    format
+        .replace(QStringLiteral("%2%1"), QStringLiteral("%2") + noBreakSpace + QStringLiteral("%1"))
+        .replace(QStringLiteral("%1%2"),
+                 QStringLiteral("%1") + noBreakSpace + QStringLiteral("%2"));
+  }
+  return stream << format.arg(amount, symbol).toStdString();
+}
+
+} // namespace mintar
+
+QDebug operator<<(QDebug debug, mintar::Money const& money)
+{
+  std::ostringstream text;
+  text << money;
+  return debug << QString::fromStdString(text.str());
+}
