@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QDebug>
+#include <QString>
+
+#include <sstream>
+
+namespace orv::banking {
+
+// Writes what the value's standard-stream operator writes, as one QString: no type formats itself
+// twice. Nothing reaches `debug` when that operator throws.
+template <typename T>
+QDebug writeStreamForm(QDebug debug, T const& value)
+{
+  std::ostringstream text;
+  text << value;
+  return debug << QString::fromStdString(text.str());
+}
+
+} // namespace orv::banking
