@@ -1,0 +1,253 @@
+#include "Book.hpp"
+
+#include "BookError.hpp"
+#include "BookReader.hpp"
+#include "Table.hpp"
+
+#include <accounting/AccountNumber.hpp>
+#include <banking/Bank.hpp>
+#include <banking/BankAccount.hpp>
+#include <banking/BankAccountTypes.hpp>
+#include <foundation/Date.hpp>
+#include <foundation/LocaleAware.hpp>
+
+#include <limits>
+#include <sstream>
+#include <utility>
+
+using orv::accounting::AccountNumber;
+using orv::banking::Bank;
+using orv::banking::BankAccount;
+using orv::banking::BankAccountTypes;
+using orv::banking::BankName;
+using orv::banking::ReconciledBankAccount;
+
+namespace {
+
+using Accounts = std::map<AccountNumber, BankAccountTypes>;
+
+// What the type writes to a standard stream.
+template <typename T>
+QString streamForm(T const& value)
+{
+  std::ostringstream text;
+  text << value;
+  return QString::fromStdString(text.str());
+}
+
+QString written(QString const& command, QString const& arguments)
+{
+  return arguments.isEmpty() ? command : command + u' ' + arguments;
+}
+
+// The bank that NAME [NUMBER=KIND ...] describes.
+Bank toBank(QStringList const& words)
+{
+  Accounts accounts;
+  for (auto const& word : words.mid(1)) {
+    auto const number = toAccountNumber(word.section(u'=', 0, 0));
+    auto const kind = orv::banking::toBankAccountTypes(word.section(u'=', 1));
+    if (!accounts.emplace(number, kind).second) {
+      throw BookError(
+          Book::tr("The account number %1 is given twice.").arg(presentationText(number)));
+    }
+  }
+  return Bank(BankName(words[0]), std::move(accounts), false);
+}
+
+QString noHolderText(AccountNumber const& number)
+{
+  return Book::tr("No bank holds the account number %1.").arg(presentationText(number));
+}
+
+BankAccount accountAt(Bank const& bank, AccountNumber const& number)
+{
+  return {bank.name(), {number, bank.accounts().at(number)}};
+}
+
+} // namespace
+
+struct Book::Command
+{
+  QString arguments;
+  qsizetype fewestWords;
+  qsizetype mostWords;
+  QString (Book::*run)(QStringList const& words);
+};
+
+std::map<QString, Book::Command> const& Book::commands()
+{
+  constexpr auto any = std::numeric_limits<qsizetype>::max();
+  static std::map<QString, Command> const commands{
+      {"add", {"NAME NUMBER KIND", 3, 3, &Book::add}},
+      {"bank", {"NAME [NUMBER=KIND ...]", 1, any, &Book::bank}},
+      {"close", {"NAME", 1, 1, &Book::close}},
+      {"find", {"NUMBER", 1, 1, &Book::find}},
+      {"list", {"", 0, 0, &Book::list}},
+      {"open", {"NAME", 1, 1, &Book::open}},
+      {"print", {"", 0, 0, &Book::print}},
+      {"reconcile", {"NUMBER DATE AMOUNT CURRENCY", 4, 4, &Book::reconcile}},
+      {"remove", {"NAME [NUMBER]", 1, 2, &Book::remove}},
+      {"rename", {"FROM TO", 2, 2, &Book::rename}},
+      {"update", {"NAME [NUMBER=KIND ...]", 1, any, &Book::update}},
+  };
+  return commands;
+}
+
+QString Book::usage()
+{
+  QString text;
+  for (auto const& [name, command] : commands()) {
+    text += QStringLiteral("  ") + written(name, command.arguments) + u'\n';
+  }
+  return text.chopped(1);
+}
+
+QString Book::execute(QByteArrayView line)
+{
+  auto words = toWords(toText(line));
+  if (words.isEmpty()) {
+    return {};
+  }
+  auto const name = words.takeFirst();
+  auto const found = commands().find(name);
+  if (found == commands().end()) {
+    throw BookError(tr("There is no command '%1'.").arg(name));
+  }
+  auto const& command = found->second;
+  if (words.size() < command.fewestWords || words.size() > command.mostWords) {
+    throw BookError(tr("The command is written: %1").arg(written(name, command.arguments)));
+  }
+  return (this->*command.run)(words);
+}
+
+QString Book::add(QStringList const& words)
+{
+  BankName const name(words[0]);
+  banks_.add(name, toAccountNumber(words[1]), orv::banking::toBankAccountTypes(words[2]));
+  follow(name, name);
+  return {};
+}
+
+QString Book::bank(QStringList const& words)
+{
+  banks_.add(toBank(words));
+  return {};
+}
+
+QString Book::close(QStringList const& words)
+{
+  banks_.close(BankName(words[0]));
+  return {};
+}
+
+QString Book::find(QStringList const& words)
+{
+  auto const number = toAccountNumber(words[0]);
+  auto const bank = banks_.find(number);
+  return (bank ? presentationText(accountAt(*bank, number), orv::foundation::LocaleAware::Yes)
+               : noHolderText(number)) +
+         u'\n';
+}
+
+QString Book::list(QStringList const& /*words*/)
+{
+  QList<QStringList> rows{{tr("Bank"), tr("State"), tr("Account"), tr("Kind"), tr("Class"),
+                           tr("Balance"), tr("Reconciled")}};
+  for (auto const& name : banks_.names()) {
+    auto const& bank = banks_.bank(name);
+    QStringList const start{presentationText(name), bank.isClosed() ? tr("closed") : tr("open")};
+    if (bank.accounts().empty()) {
+      rows += start;
+    }
+    for (auto const& [number, kind] : bank.accounts()) {
+      auto const balance = balances_.find(number);
+      auto const isReconciled = balance != balances_.end();
+      rows += start + QStringList{
+                          presentationText(number),
+                          presentationText(kind),
+                          isAssetAccount(kind) ? tr("asset") : tr("liability"),
+                          isReconciled ? streamForm(balance->second.balance()) : QString(),
+                          isReconciled ? streamForm(*balance->second.reconciledOn()) : QString(),
+                      };
+    }
+  }
+  return toTable(rows, "llrllrl");
+}
+
+QString Book::open(QStringList const& words)
+{
+  banks_.open(BankName(words[0]));
+  return {};
+}
+
+QString Book::print(QStringList const& /*words*/)
+{
+  return streamForm(banks_) + u'\n';
+}
+
+QString Book::reconcile(QStringList const& words)
+{
+  auto const number = toAccountNumber(words[0]);
+  auto const bank = banks_.find(number);
+  if (!bank) {
+    throw BookError(noHolderText(number));
+  }
+  auto const date = toDate(words[1]);
+  auto const balance = toMoney(words[2], words[3]);
+
+  auto const known = balances_.find(number);
+  auto account = known == balances_.end()
+                     ? ReconciledBankAccount(accountAt(*bank, number), {}, std::nullopt)
+                     : known->second;
+  account.reconcile(date, balance);
+  balances_.insert_or_assign(number, std::move(account));
+  return {};
+}
+
+QString Book::remove(QStringList const& words)
+{
+  BankName const name(words[0]);
+  if (words.size() == 1) {
+    banks_.remove(name);
+  } else {
+    banks_.remove(name, toAccountNumber(words[1]));
+  }
+  follow(name, name);
+  return {};
+}
+
+QString Book::rename(QStringList const& words)
+{
+  BankName const from(words[0]);
+  BankName const to(words[1]);
+  banks_.rename(from, to);
+  follow(from, to);
+  return {};
+}
+
+QString Book::update(QStringList const& words)
+{
+  auto bank = toBank(words);
+  auto const name = bank.name();
+  banks_.update(std::move(bank));
+  follow(name, name);
+  return {};
+}
+
+void Book::follow(BankName const& before, BankName const& after)
+{
+  auto const accounts = banks_.hasBank(after) ? banks_.bank(after).accounts() : Accounts();
+  for (auto entry = balances_.begin(); entry != balances_.end();) {
+    auto& [number, account] = *entry;
+    if (account.bankAccount().bankName != before) {
+      ++entry;
+    } else if (auto const found = accounts.find(number); found == accounts.end()) {
+      entry = balances_.erase(entry);
+    } else {
+      account = ReconciledBankAccount({after, {number, found->second}}, account.balance(),
+                                      account.reconciledOn());
+      ++entry;
+    }
+  }
+}
