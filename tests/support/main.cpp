@@ -1,0 +1,14 @@
+#include <QCoreApplication>
+#include <QLocale>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv)
+{
+  // Tests see info messages and plain texts, whatever the tester's environment says.
+  qunsetenv("QT_LOGGING_RULES");
+  QLocale::setDefault(QLocale::c());
+  QCoreApplication const application(argc, argv);
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}
