@@ -5,8 +5,6 @@
 #include <banking/Export.hpp>
 #include <foundation/LocaleAware.hpp>
 
-#include <QtCore/qtconfigmacros.h>
-
 #include <cstdint>
 #include <iosfwd>
 

@@ -2,8 +2,6 @@
 
 #include <accounting/Export.hpp>
 
-#include <QtCore/qtconfigmacros.h>
-
 #include <iosfwd>
 
 class QDebug;

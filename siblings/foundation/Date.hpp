@@ -2,8 +2,6 @@
 
 #include <foundation/Export.hpp>
 
-#include <QtCore/qtconfigmacros.h>
-
 #include <iosfwd>
 
 class QDate;
