@@ -72,7 +72,7 @@ TEST(Book, RefusesLinesAndStaysAsItWas)
            std::pair("reconcile 1 2026-02-30 1 CAD",
                      "'2026-02-30' is not a date such as 2026-01-31."),
            std::pair("reconcile 1 2026-02-28 1 EUR",
-                     "Cannot assign an amount of money in another currency."),
+                     "The balance of the account number 1 is not kept in EUR."),
            std::pair("rename Oak \" \"",
                      "There is an issue with the bank ''. The name of a financial "
                      "institution cannot be empty."),
@@ -105,10 +105,10 @@ TEST(Book, KeepsBalancesWithTheirBank)
   book.execute("add \"Big Elm\" 1 \"Credit Card\"");
   EXPECT_EQ(listed(book),
             "Bank     State  Account  Kind         Class        Balance  Reconciled\n"
-            "-------  -----  -------  -----------  ---------  ---------  ----------\n"
-            "Big Elm  open         1  Credit Card  liability  -5.25\u00a0CAD  2026-01-31\n"
-            "Big Elm  open         2  Goal         asset       6.25\u00a0CAD  2026-01-31\n"
-            "Big Elm  open         3  Savings      asset       7.25\u00a0CAD  2026-01-31\n");
+            "-------  -----  -------  -----------  ---------  ---------  -----------\n"
+            "Big Elm  open         1  Credit Card  liability  -5.25\u00a0CAD  31 Jan 2026\n"
+            "Big Elm  open         2  Goal         asset       6.25\u00a0CAD  31 Jan 2026\n"
+            "Big Elm  open         3  Savings      asset       7.25\u00a0CAD  31 Jan 2026\n");
   expectThrows<orv::banking::BankError>(
       "There is an issue with the bank 'Big Elm'. The last reconciled date, 31 Jan 2026, cannot be "
       "updated to be in the past, 30 Jan 2026.",

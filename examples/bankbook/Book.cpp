@@ -13,6 +13,7 @@
 
 #include <limits>
 #include <sstream>
+#include <stdexcept>
 #include <utility>
 
 using orv::accounting::AccountNumber;
@@ -21,6 +22,7 @@ using orv::banking::BankAccount;
 using orv::banking::BankAccountTypes;
 using orv::banking::BankName;
 using orv::banking::ReconciledBankAccount;
+using orv::foundation::presentationText; // of a date, whose own namespace has none
 
 namespace {
 
@@ -33,11 +35,6 @@ QString streamForm(T const& value)
   std::ostringstream text;
   text << value;
   return QString::fromStdString(text.str());
-}
-
-QString written(QString const& command, QString const& arguments)
-{
-  return arguments.isEmpty() ? command : command + u' ' + arguments;
 }
 
 // The bank that NAME [NUMBER=KIND ...] describes.
@@ -69,27 +66,32 @@ BankAccount accountAt(Bank const& bank, AccountNumber const& number)
 
 struct Book::Command
 {
-  QString arguments;
+  char const* arguments; // the source text, for the translator
   qsizetype fewestWords;
   qsizetype mostWords;
   QString (Book::*run)(QStringList const& words);
+
+  QString written(QString const& name) const
+  {
+    return mostWords == 0 ? name : name + u' ' + tr(arguments);
+  }
 };
 
 std::map<QString, Book::Command> const& Book::commands()
 {
   constexpr auto any = std::numeric_limits<qsizetype>::max();
   static std::map<QString, Command> const commands{
-      {"add", {"NAME NUMBER KIND", 3, 3, &Book::add}},
-      {"bank", {"NAME [NUMBER=KIND ...]", 1, any, &Book::bank}},
-      {"close", {"NAME", 1, 1, &Book::close}},
-      {"find", {"NUMBER", 1, 1, &Book::find}},
+      {"add", {QT_TR_NOOP("NAME NUMBER KIND"), 3, 3, &Book::add}},
+      {"bank", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, any, &Book::bank}},
+      {"close", {QT_TR_NOOP("NAME"), 1, 1, &Book::close}},
+      {"find", {QT_TR_NOOP("NUMBER"), 1, 1, &Book::find}},
       {"list", {"", 0, 0, &Book::list}},
-      {"open", {"NAME", 1, 1, &Book::open}},
+      {"open", {QT_TR_NOOP("NAME"), 1, 1, &Book::open}},
       {"print", {"", 0, 0, &Book::print}},
-      {"reconcile", {"NUMBER DATE AMOUNT CURRENCY", 4, 4, &Book::reconcile}},
-      {"remove", {"NAME [NUMBER]", 1, 2, &Book::remove}},
-      {"rename", {"FROM TO", 2, 2, &Book::rename}},
-      {"update", {"NAME [NUMBER=KIND ...]", 1, any, &Book::update}},
+      {"reconcile", {QT_TR_NOOP("NUMBER DATE AMOUNT CURRENCY"), 4, 4, &Book::reconcile}},
+      {"remove", {QT_TR_NOOP("NAME [NUMBER]"), 1, 2, &Book::remove}},
+      {"rename", {QT_TR_NOOP("FROM TO"), 2, 2, &Book::rename}},
+      {"update", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, any, &Book::update}},
   };
   return commands;
 }
@@ -98,7 +100,7 @@ QString Book::usage()
 {
   QString text;
   for (auto const& [name, command] : commands()) {
-    text += QStringLiteral("  ") + written(name, command.arguments) + u'\n';
+    text += QStringLiteral("  ") + command.written(name) + u'\n';
   }
   return text.chopped(1);
 }
@@ -116,7 +118,7 @@ QString Book::execute(QByteArrayView line)
   }
   auto const& command = found->second;
   if (words.size() < command.fewestWords || words.size() > command.mostWords) {
-    throw BookError(tr("The command is written: %1").arg(written(name, command.arguments)));
+    throw BookError(tr("The command is written: %1").arg(command.written(name)));
   }
   return (this->*command.run)(words);
 }
@@ -161,15 +163,13 @@ QString Book::list(QStringList const& /*words*/)
       rows += start;
     }
     for (auto const& [number, kind] : bank.accounts()) {
-      auto const balance = balances_.find(number);
-      auto const isReconciled = balance != balances_.end();
-      rows += start + QStringList{
-                          presentationText(number),
-                          presentationText(kind),
-                          isAssetAccount(kind) ? tr("asset") : tr("liability"),
-                          isReconciled ? streamForm(balance->second.balance()) : QString(),
-                          isReconciled ? streamForm(*balance->second.reconciledOn()) : QString(),
-                      };
+      auto row = start + QStringList{presentationText(number), presentationText(kind),
+                                     isAssetAccount(kind) ? tr("asset") : tr("liability")};
+      if (auto const known = balances_.find(number); known != balances_.end()) {
+        row +=
+            {streamForm(known->second.balance()), presentationText(*known->second.reconciledOn())};
+      }
+      rows += row;
     }
   }
   return toTable(rows, "llrllrl");
@@ -200,7 +200,12 @@ QString Book::reconcile(QStringList const& words)
   auto account = known == balances_.end()
                      ? ReconciledBankAccount(accountAt(*bank, number), {}, std::nullopt)
                      : known->second;
-  account.reconcile(date, balance);
+  try {
+    account.reconcile(date, balance);
+  } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
+    throw BookError(tr("The balance of the account number %1 is not kept in %2.")
+                        .arg(presentationText(number), words[3]));
+  }
   balances_.insert_or_assign(number, std::move(account));
   return {};
 }
