@@ -4,9 +4,11 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
+#include <QTranslator>
 
 #include <cstdio>
 #include <exception>
@@ -25,6 +27,37 @@ struct Bankbook
 {
   Q_DECLARE_TR_FUNCTIONS(Bankbook)
 };
+
+// All texts depend on the locale, those of the other options too: so it is read before them, by a
+// parser that knows no other option and does not mind.
+void setLocale(QCommandLineOption const& localeOption)
+{
+  QCommandLineParser parser;
+  parser.addOption(localeOption);
+  parser.parse(QCoreApplication::arguments());
+  auto const name = parser.value(localeOption);
+  if (!name.isEmpty()) {
+    QLocale::setDefault(QLocale(name));
+  }
+}
+
+// Where there is no translation, English stays.
+void installTranslator(QString const& name, QString const& folder)
+{
+  auto* const translator = new QTranslator(QCoreApplication::instance());
+  if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
+    QCoreApplication::installTranslator(translator);
+  }
+}
+
+void installTranslators()
+{
+  installTranslator(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  auto const data = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/");
+  for (auto const& name : {QStringLiteral("orv-banking"), QStringLiteral("bankbook")}) {
+    installTranslator(name, data + name + QStringLiteral("/translations"));
+  }
+}
 
 // Runs the lines of `file` one by one; `name` stands before each refusal.
 ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
@@ -67,29 +100,34 @@ int main(int argc, char* argv[])
   QCoreApplication::setApplicationName(QStringLiteral("bankbook"));
   QCoreApplication::setApplicationVersion(QStringLiteral(BANKBOOK_VERSION));
 
-  QCommandLineOption const localeOption(QStringLiteral("locale"),
-                                        Bankbook::tr("Show texts and amounts as in this locale."),
-                                        QStringLiteral("LOCALE"));
+  QCommandLineOption localeOption(QStringLiteral("locale"));
+  localeOption.setValueName(QStringLiteral("LOCALE"));
+  setLocale(localeOption);
+  installTranslators();
+
+  localeOption.setDescription(Bankbook::tr("Show texts and amounts as in this locale."));
   QCommandLineOption const quietOption(QStringLiteral("quiet"),
                                        Bankbook::tr("Do not tell of each change of a bank."));
   QCommandLineOption const strictOption(QStringLiteral("strict"),
                                         Bankbook::tr("Stop at the first line that is refused."));
+  QCommandLineOption const helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                      Bankbook::tr("Show this help."));
   QCommandLineParser parser;
   parser.setApplicationDescription(Bankbook::tr("Keeps a household's books, one command a line:") +
                                    QStringLiteral("\n\n") + Book::usage());
-  parser.addOptions({localeOption, quietOption, strictOption});
-  parser.addHelpOption();
+  parser.addOptions({localeOption, quietOption, strictOption, helpOption});
   parser.addVersionOption();
-  parser.addPositionalArgument(QStringLiteral("FILE"),
+  auto const fileArgument = Bankbook::tr("FILE");
+  parser.addPositionalArgument(fileArgument,
                                Bankbook::tr("The book; standard input where it is left out or -."),
-                               QStringLiteral("[FILE]"));
+                               u'[' + fileArgument + u']');
 
   QTextStream err(stderr);
   if (!parser.parse(QCoreApplication::arguments())) {
     err << parser.errorText() << '\n';
     return NotRun;
   }
-  if (parser.isSet(QStringLiteral("help"))) {
+  if (parser.isSet(helpOption)) {
     parser.showHelp();
   }
   if (parser.isSet(QStringLiteral("version"))) {
@@ -99,9 +137,6 @@ int main(int argc, char* argv[])
   if (files.size() > 1) {
     err << Bankbook::tr("Only one book can be read at a time.") << '\n';
     return NotRun;
-  }
-  if (parser.isSet(localeOption)) {
-    QLocale::setDefault(QLocale(parser.value(localeOption)));
   }
   if (parser.isSet(quietOption)) {
     QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));

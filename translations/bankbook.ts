@@ -1,0 +1,169 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1">
+<context>
+    <name>Bankbook</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show texts and amounts as in this locale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not tell of each change of a bank.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at the first line that is refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s books, one command a line:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The book; standard input where it is left out or -.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one book can be read at a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Book</name>
+    <message>
+        <source>The account number %1 is given twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME NUMBER KIND</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME [NUMBER=KIND ...]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NUMBER DATE AMOUNT CURRENCY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAME [NUMBER]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FROM TO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command is written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reconciled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>asset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>liability</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is not kept in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BookReader</name>
+    <message>
+        <source>The line is not UTF-8 text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quoted word does not end.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an account number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency code such as CAD.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
