@@ -40,6 +40,7 @@ public:
     return accounts_;
   }
 
+  /// True for a closed bank. Its accounts may change all the same.
   bool isClosed() const noexcept { return isClosed_; }
 
   /// The reference is valid while this bank lives; assigning to the bank changes the name.

@@ -11,7 +11,10 @@ namespace orv::banking {
 /// An account at a bank: the bank, the ledger account number and the kind. Nothing is checked.
 struct BankAccount
 {
+  /// The bank that holds the account.
   BankName bankName;
+
+  /// The account's number and kind.
   AccountNumberBankType accountNumberBankType;
 };
 

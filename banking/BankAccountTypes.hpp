@@ -61,7 +61,10 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type)
 /// A ledger account number and the kind of bank account that it stands for. Nothing is checked.
 struct AccountNumberBankType
 {
+  /// The number in the ledger.
   accounting::AccountNumber accountNumber;
+
+  /// The kind of account that the bank holds.
   BankAccountTypes bankAccountType = BankAccountTypes::Unknown;
 };
 

@@ -33,11 +33,13 @@ private:
   QString institution_;
 };
 
+/// Equal when the texts are.
 inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
 {
   return lhs.institution() == rhs.institution();
 }
 
+/// The order of the texts by UTF-16 code unit.
 inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 {
   return lhs.institution() < rhs.institution();

@@ -12,7 +12,10 @@ namespace orv::banking {
 /// A balance and the date on which it occurred.
 struct ReconciledBalance
 {
+  /// The amount.
   mintar::Money balance;
+
+  /// The date.
   QDate occurredOn;
 };
 

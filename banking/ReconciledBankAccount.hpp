@@ -28,16 +28,22 @@ public:
 
   /// A copy or a move takes over the whole balance, whatever its currency. A moved-from account keeps
   /// its date.
+  /// @{
   ReconciledBankAccount(ReconciledBankAccount const& other) noexcept;
   ReconciledBankAccount(ReconciledBankAccount&& other) noexcept;
   ReconciledBankAccount& operator=(ReconciledBankAccount const& other) noexcept;
   ReconciledBankAccount& operator=(ReconciledBankAccount&& other) noexcept;
+  /// @}
   ~ReconciledBankAccount() = default;
 
-  /// The references that these three give are valid while this account lives; assigning to it or
-  /// reconciling it changes what they refer to.
+  /// The account as the bank holds it. The references that this and the next two give are valid while
+  /// this account lives; assigning to it or reconciling it changes what they refer to.
   BankAccount const& bankAccount() const noexcept { return bankAccount_; }
+
+  /// The balance that the bank reported last.
   mintar::Money const& balance() const noexcept { return balance_; }
+
+  /// The date of the last reconciliation, if any.
   std::optional<QDate> const& reconciledOn() const noexcept { return reconciledOn_; }
 
   /// Records that the bank reported `balance` on `date`. The first reconciliation takes any date, a

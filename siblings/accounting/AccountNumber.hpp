@@ -19,21 +19,26 @@ public:
   /// The invalid number.
   AccountNumber() noexcept = default;
 
+  /// The number of that integer; `invalid_` gives the invalid number.
   explicit AccountNumber(unsigned int integer) noexcept : integer_(integer) {}
 
+  /// The integer that the number is.
   unsigned int integer() const noexcept { return integer_; }
 
+  /// True when the number is of that integer.
   bool operator==(unsigned int const& integer) const noexcept { return integer_ == integer; }
 
 private:
   unsigned int integer_ = invalid_;
 };
 
+/// Equal when the integers are.
 inline bool operator==(AccountNumber const& lhs, AccountNumber const& rhs) noexcept
 {
   return lhs.integer() == rhs.integer();
 }
 
+/// The order of the integers.
 inline bool operator<(AccountNumber const& lhs, AccountNumber const& rhs) noexcept
 {
   return lhs.integer() < rhs.integer();

@@ -24,8 +24,11 @@ public:
   /// For instance 1250 of CAD for twelve dollars and fifty cents.
   Money(Currency const& currency, qint64 minorUnits) noexcept;
 
+  /// The whole value.
+  /// @{
   Money(Money const& other) noexcept = default;
   Money(Money&& other) noexcept = default;
+  /// @}
   ~Money() = default;
 
   /// Replaces the amount, and the currency where there was none yet. Throws `std::invalid_argument`
@@ -33,8 +36,10 @@ public:
   Money& operator=(Money const& other);
 
   /// Replaces the whole value, whatever the currencies are.
+  /// @{
   Money& assign(Money const& other) noexcept;
   Money& assign(Money&& other) noexcept;
+  /// @}
 
   /// Equal when amount and currency are.
   friend bool operator==(Money const& lhs, Money const& rhs) noexcept
