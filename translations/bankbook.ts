@@ -138,6 +138,18 @@
         <source>The balance of the account number %1 is not kept in %2.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Name one account; &apos;%1&apos; has statements of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NUMBER FILE [ACCOUNTID]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>
@@ -163,6 +175,33 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Statement</name>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is too large for a statement.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a whole OFX file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has no statement that libofx reads without errors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bankbook was built without libofx, which reads statements.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

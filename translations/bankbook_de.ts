@@ -138,6 +138,18 @@
         <source>The balance of the account number %1 is not kept in %2.</source>
         <translation>Der Saldo des Kontos mit der Nummer %1 wird nicht in %2 geführt.</translation>
     </message>
+    <message>
+        <source>Name one account; &apos;%1&apos; has statements of: %2.</source>
+        <translation>Ein Konto ist anzugeben; „%1“ hat Auszüge von: %2.</translation>
+    </message>
+    <message>
+        <source>NUMBER FILE [ACCOUNTID]</source>
+        <translation>NUMMER DATEI [KONTOKENNUNG]</translation>
+    </message>
+    <message>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation>Das Konto %1 ist nicht von der Art, für die der Auszug ist, „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>
@@ -164,6 +176,33 @@
     <message>
         <source>&apos;%1&apos; is not an amount of %2.</source>
         <translation>„%1“ ist kein Betrag in %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Statement</name>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation>%1 „%2“ des Auszugs kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation>Es gibt keine lesbare Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is too large for a statement.</source>
+        <translation>Die Datei „%1“ ist zu groß für einen Auszug.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a whole OFX file.</source>
+        <translation>Die Datei „%1“ ist keine vollständige OFX-Datei.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has no statement that libofx reads without errors.</source>
+        <translation>Die Datei „%1“ enthält keinen Auszug, den libofx ohne Fehler liest.</translation>
+    </message>
+    <message>
+        <source>bankbook was built without libofx, which reads statements.</source>
+        <translation>bankbook wurde ohne libofx gebaut, das Auszüge liest.</translation>
     </message>
 </context>
 </TS>

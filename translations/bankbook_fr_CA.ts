@@ -138,6 +138,18 @@
         <source>The balance of the account number %1 is not kept in %2.</source>
         <translation>Le solde du compte numéro %1 n’est pas tenu en %2.</translation>
     </message>
+    <message>
+        <source>Name one account; &apos;%1&apos; has statements of: %2.</source>
+        <translation>Préciser un compte; «&#xa0;%1&#xa0;» contient les relevés de&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>NUMBER FILE [ACCOUNTID]</source>
+        <translation>NUMÉRO FICHIER [IDENTIFIANT]</translation>
+    </message>
+    <message>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>
@@ -164,6 +176,33 @@
     <message>
         <source>&apos;%1&apos; is not an amount of %2.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Statement</name>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation>Impossible de lire %1 «&#xa0;%2&#xa0;» dans le relevé.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation>Il n’y a pas de fichier «&#xa0;%1&#xa0;» qui puisse être lu.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is too large for a statement.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour un relevé.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not a whole OFX file.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas un fichier OFX complet.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has no statement that libofx reads without errors.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne contient aucun relevé que libofx lise sans erreur.</translation>
+    </message>
+    <message>
+        <source>bankbook was built without libofx, which reads statements.</source>
+        <translation>bankbook a été compilé sans libofx, qui lit les relevés.</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "BookError.hpp"
 #include "BookReader.hpp"
+#include "Statement.hpp"
 #include "Table.hpp"
 
 #include <accounting/AccountNumber.hpp>
@@ -62,6 +63,24 @@ BankAccount accountAt(Bank const& bank, AccountNumber const& number)
   return {bank.name(), {number, bank.accounts().at(number)}};
 }
 
+// The one statement in the file, or the one of the account where its identifier is not empty.
+Statement statementOf(QString const& path, QString const& accountId)
+{
+  auto statements = readStatements(path);
+  QStringList accountIds;
+  for (auto const& statement : statements) {
+    accountIds += statement.accountId;
+  }
+  if (!accountId.isEmpty()) {
+    statements.removeIf([&](auto const& statement) { return statement.accountId != accountId; });
+  }
+  if (statements.size() != 1) {
+    throw BookError(Book::tr("Name one account; '%1' has statements of: %2.")
+                        .arg(path, accountIds.join(QStringLiteral(", "))));
+  }
+  return statements.first();
+}
+
 } // namespace
 
 struct Book::Command
@@ -91,6 +110,7 @@ std::map<QString, Book::Command> const& Book::commands()
       {"reconcile", {QT_TR_NOOP("NUMBER DATE AMOUNT CURRENCY"), 4, 4, &Book::reconcile}},
       {"remove", {QT_TR_NOOP("NAME [NUMBER]"), 1, 2, &Book::remove}},
       {"rename", {QT_TR_NOOP("FROM TO"), 2, 2, &Book::rename}},
+      {"statement", {QT_TR_NOOP("NUMBER FILE [ACCOUNTID]"), 2, 3, &Book::statement}},
       {"update", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, any, &Book::update}},
   };
   return commands;
@@ -189,17 +209,13 @@ QString Book::print(QStringList const& /*words*/)
 QString Book::reconcile(QStringList const& words)
 {
   auto const number = toAccountNumber(words[0]);
-  auto const bank = banks_.find(number);
-  if (!bank) {
-    throw BookError(noHolderText(number));
-  }
+  auto const onRecord = accountOnRecord(number);
   auto const date = toDate(words[1]);
   auto const balance = toMoney(words[2], words[3]);
 
   auto const known = balances_.find(number);
-  auto account = known == balances_.end()
-                     ? ReconciledBankAccount(accountAt(*bank, number), {}, std::nullopt)
-                     : known->second;
+  auto account =
+      known == balances_.end() ? ReconciledBankAccount(onRecord, {}, std::nullopt) : known->second;
   try {
     account.reconcile(date, balance);
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
@@ -231,6 +247,18 @@ QString Book::rename(QStringList const& words)
   return {};
 }
 
+QString Book::statement(QStringList const& words)
+{
+  auto const onRecord = accountOnRecord(toAccountNumber(words[0])).accountNumberBankType;
+  auto const statement = statementOf(folder_.filePath(words[1]), words.value(2));
+  if (!statement.kinds.contains(onRecord.bankAccountType)) {
+    throw BookError(
+        tr("The account %1 is not of the kind that the statement is for, '%2'.")
+            .arg(presentationText(onRecord, orv::foundation::LocaleAware::Yes), statement.type));
+  }
+  return reconcile({words[0], statement.date, statement.balance, statement.currency});
+}
+
 QString Book::update(QStringList const& words)
 {
   auto bank = toBank(words);
@@ -238,6 +266,15 @@ QString Book::update(QStringList const& words)
   banks_.update(std::move(bank));
   follow(name, name);
   return {};
+}
+
+BankAccount Book::accountOnRecord(AccountNumber const& number) const
+{
+  auto const bank = banks_.find(number);
+  if (!bank) {
+    throw BookError(noHolderText(number));
+  }
+  return accountAt(*bank, number);
 }
 
 void Book::follow(BankName const& before, BankName const& after)

@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -64,7 +65,7 @@ ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
 {
   QTextStream out(stdout);
   QTextStream err(stderr);
-  Book book;
+  Book book(QFileInfo(file).absoluteDir()); // the current one for standard input
   auto status = AllDone;
   for (int number = 1;; ++number) {
     if (prompts) {
