@@ -1,19 +1,24 @@
 # What the four libraries have in common: one shared library with hidden visibility, an export macro
-# of its own, headers below include/orv/, and a CMake package in whose namespace it is linked.
+# of its own, headers below include/orv/, a CMake package in whose namespace it is linked, and a
+# pkg-config module that says the same. What is installed finds its neighbours from its own place, so
+# that the prefix can be moved.
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 include(GNUInstallDirs)
 
 # orv_shared_library(<package>
+#   DESCRIPTION <text>               in one line
 #   TARGET <namespace>::<name>       the name that a consumer links
 #   VERSION <x.y.z>                  soname and package compatibility are <x.y>
 #   FOLDER <folder>                  the folder of the headers, as a consumer includes them
 #   INCLUDE_ROOT <dir>               the folder that holds <folder>
 #   HEADERS <file>... SOURCES <file>... [PRIVATE_HEADERS <file>...]
-#   REQUIRES <package> <version> <target>...    public dependencies, three words each)
+#   REQUIRES <package> <version> <target>...    public dependencies, three words each
+#   [TRANSLATIONS_DIR <dir>])        the full path where the translations of its texts are installed
 function(orv_shared_library package)
   cmake_parse_arguments(PARSE_ARGV 1 ARG ""
-    "TARGET;VERSION;FOLDER;INCLUDE_ROOT" "HEADERS;PRIVATE_HEADERS;SOURCES;REQUIRES")
+    "DESCRIPTION;TARGET;VERSION;FOLDER;INCLUDE_ROOT;TRANSLATIONS_DIR"
+    "HEADERS;PRIVATE_HEADERS;SOURCES;REQUIRES")
   string(REPLACE "::" ";" target_words "${ARG_TARGET}")
   list(GET target_words 0 namespace)
   list(GET target_words 1 export_name)
@@ -26,6 +31,7 @@ function(orv_shared_library package)
     EXPORT_NAME ${export_name}
     VERSION ${ARG_VERSION}
     SOVERSION ${abi_version}
+    INSTALL_RPATH "$ORIGIN"
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON)
 
@@ -43,18 +49,46 @@ function(orv_shared_library package)
   target_include_directories(${package} SYSTEM INTERFACE
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/orv>)
 
-  set(dependencies "")
+  set(config_dependencies "")
+  set(pc_requires "")
   while(ARG_REQUIRES)
     list(POP_FRONT ARG_REQUIRES required_package required_version required_target)
     target_link_libraries(${package} PUBLIC ${required_target})
     if(required_package STREQUAL "Qt6")
-      string(APPEND dependencies "find_dependency(Qt6 ${required_version} COMPONENTS Core)\n")
+      string(APPEND config_dependencies
+        "find_dependency(Qt6 ${required_version} COMPONENTS Core)\n")
+      list(APPEND pc_requires "Qt6Core >= ${required_version}")
     else()
-      string(APPEND dependencies "find_dependency(${required_package} ${required_version})\n")
+      string(APPEND config_dependencies "find_dependency(${required_package} ${required_version})\n")
+      list(APPEND pc_requires "${required_package} >= ${required_version}")
     endif()
   endwhile()
+  list(JOIN pc_requires ", " pc_requires)
+
+  set(prefix "${CMAKE_INSTALL_PREFIX}")
+  file(RELATIVE_PATH libdir "${prefix}" "${CMAKE_INSTALL_FULL_LIBDIR}")
+  file(RELATIVE_PATH includedir "${prefix}" "${CMAKE_INSTALL_FULL_INCLUDEDIR}/orv")
+  cmake_path(RELATIVE_PATH prefix BASE_DIRECTORY "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig"
+    OUTPUT_VARIABLE pc_prefix)
+  set(config_variables "")
+  set(pc_variables "")
+  if(ARG_TRANSLATIONS_DIR)
+    file(RELATIVE_PATH translations_dir "${prefix}" "${ARG_TRANSLATIONS_DIR}")
+    string(TOUPPER "${macro_base}_TRANSLATIONS_DIR" variable)
+    set(config_variables "set(${variable} \"\${PACKAGE_PREFIX_DIR}/${translations_dir}\")\n")
+    set(pc_variables "translationsdir=\${prefix}/${translations_dir}\n")
+  endif()
 
   set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
+  set(template_dir "${CMAKE_CURRENT_FUNCTION_LIST_DIR}")
+  configure_package_config_file(
+    "${template_dir}/package-config.cmake.in" ${package}-config.cmake
+    INSTALL_DESTINATION ${package_dir}
+    NO_SET_AND_CHECK_MACRO NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+  write_basic_package_version_file(${package}-config-version.cmake
+    VERSION ${ARG_VERSION} COMPATIBILITY SameMinorVersion)
+  configure_file("${template_dir}/package.pc.in" ${package}.pc @ONLY)
+
   install(TARGETS ${package} EXPORT ${package}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
       COMPONENT Runtime NAMELINK_COMPONENT Development
@@ -62,16 +96,11 @@ function(orv_shared_library package)
     FILE_SET generated_headers DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orv COMPONENT Development)
   install(EXPORT ${package} FILE ${package}-targets.cmake NAMESPACE ${namespace}::
     DESTINATION ${package_dir} COMPONENT Development)
-  file(CONFIGURE OUTPUT ${package}-config.cmake @ONLY CONTENT
-"include(CMakeFindDependencyMacro)
-@dependencies@
-include(\"\${CMAKE_CURRENT_LIST_DIR}/@package@-targets.cmake\")
-")
-  write_basic_package_version_file(${package}-config-version.cmake
-    VERSION ${ARG_VERSION} COMPATIBILITY SameMinorVersion)
   install(
     FILES
       ${CMAKE_CURRENT_BINARY_DIR}/${package}-config.cmake
       ${CMAKE_CURRENT_BINARY_DIR}/${package}-config-version.cmake
     DESTINATION ${package_dir} COMPONENT Development)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()
