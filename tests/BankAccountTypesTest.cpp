@@ -32,12 +32,6 @@ constexpr Kind kinds[] = {
     {BankAccountTypes::Goal, 5, "Goal", true, false, AccountTypes::Asset},
 };
 
-QString weakValueText(QString const& text)
-{
-  return filled("Failed to convert from the weak value '%1' to another type for '%2'.",
-                {text, "N3orv7banking16BankAccountTypesE"});
-}
-
 } // namespace
 
 TEST(BankAccountTypes, HaveTextsAndClasses)
@@ -52,7 +46,7 @@ TEST(BankAccountTypes, HaveTextsAndClasses)
     EXPECT_EQ(isLiabilityAccount(type), isLiability);
     EXPECT_EQ(toAccountTypes(type), accountType);
     EXPECT_EQ(streamed(type), text);
-    EXPECT_EQ(debugged(type), filled("\"%1\" ", {text}));
+    EXPECT_EQ(debugged(type), QStringLiteral("\"") + text + "\" ");
     EXPECT_EQ(debuggedPlainly(type), text);
 
     ScopedTranslator const translator;
@@ -81,18 +75,19 @@ TEST(BankAccountTypes, RefuseOtherTexts)
 {
   for (auto const* const text :
        {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "Épargne"}) {
-    expectThrows<std::logic_error>(weakValueText(text), [&] { toBankAccountTypes(text); });
+    expectThrows<std::logic_error>(QStringLiteral("Failed to convert from the weak value '") +
+                                       text +
+                                       "' to another type for 'N3orv7banking16BankAccountTypesE'.",
+                                   [&] { toBankAccountTypes(text); });
   }
-  expectThrows<std::logic_error>(weakValueText(""), [] { toBankAccountTypes(QString()); });
 }
 
 TEST(BankAccountTypes, RefuseOtherValues)
 {
   for (auto const& [value, text] : {std::pair(6, "6"), std::pair(-1, "4294967295")}) {
     auto const type = static_cast<BankAccountTypes>(value);
-    auto const strong =
-        filled("Failed to convert from the strong value '%1' to the another type for '%2'.",
-               {text, "N3orv7banking16BankAccountTypesE"});
+    auto const strong = QStringLiteral("Failed to convert from the strong value '") + text +
+                        "' to the another type for 'N3orv7banking16BankAccountTypesE'.";
     expectThrows<std::logic_error>(strong, [&] { toNonLocalisedText(type); });
     expectThrows<std::logic_error>(strong, [&] { presentationText(type); });
     expectThrows<std::logic_error>(strong, [&] { toAccountTypes(type); });

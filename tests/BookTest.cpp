@@ -46,7 +46,7 @@ TEST(BookReader, ReadsAmountsExactly)
             Money(Currency("CAD"), std::numeric_limits<qint64>::min()));
   for (auto const* const amount : {"", ".", "1.", ".5", "+1", "--1", "1.234", "1,5", "1 0",
                                    "92233720368547758.08", "1e3", "1.2.3"}) {
-    expectThrows<BookError>(filled("'%1' is not an amount of CAD.", {amount}),
+    expectThrows<BookError>(QStringLiteral("'") + amount + "' is not an amount of CAD.",
                             [&] { toMoney(amount, "CAD"); });
   }
   expectThrows<BookError>("'cad' is not a currency code such as CAD.", [] { toMoney("1", "cad"); });
