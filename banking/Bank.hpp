@@ -18,6 +18,10 @@ namespace orv::banking {
 /// the kind `Unknown`. A change that would break a rule throws `BankError`, which names this bank,
 /// and leaves the bank as it was. Each change first writes one info message to Qt's default logging
 /// category, whether it is then refused or not.
+///
+/// A change for which there is no memory throws `std::bad_alloc` and leaves the bank as it was, too;
+/// its message may end early. Qt calls the message handler where an exception ends the program, so a
+/// handler must not throw; Qt's own needs memory for every message.
 class ORV_BANKING_EXPORT Bank
 {
 public:

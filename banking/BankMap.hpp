@@ -18,7 +18,8 @@ namespace orv::banking {
 /// Every bank stands under its own name, no bank holds the invalid account number, and no account
 /// number is held at two banks. A change that would break a rule throws `BankError` and leaves the
 /// registry as it was; the errors of the `Bank` that is changed pass through. The messages are those
-/// in quotes; their placeholders stand for account numbers and bank names.
+/// in quotes; their placeholders stand for account numbers and bank names. `std::bad_alloc` leaves the
+/// registry as it was, too. A bank that is moved into a call is gone even where the call is refused.
 ///
 /// Below, B is the number of banks, A the number of accounts of the bank concerned and N the number of
 /// accounts of all banks. There is no index of account numbers: what asks for the holder of a number

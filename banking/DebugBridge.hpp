@@ -13,6 +13,7 @@ template <typename T>
 QDebug writeStreamForm(QDebug debug, T const& value)
 {
   std::ostringstream text;
+  text.exceptions(std::ios_base::badbit); // or a full memory would cut the text short, unnoticed
   text << value;
   return debug << QString::fromStdString(text.str());
 }
