@@ -74,7 +74,7 @@ TEST(Statement, ReconcilesAnAccountOrIsRefused)
        "The file 'x' has no statement that libofx reads without errors."},
       {"</BANKMSGSRSV1>\n</OFX>\n", "", "1 x", "The file 'x' is not a whole OFX file."},
       {chequeing, "<html></OFX>", "1 x", "The file 'x' is not a whole OFX file."},
-      {"\n\n", QByteArray(2 * 1024 * 1024, '\n'), "1 x",
+      {"\n\n", QByteArray(2LL * 1024 * 1024, '\n'), "1 x",
        "The file 'x' is too large for a statement."},
       {"", "", "1 y", "There is no file 'y' that can be read."},
       {"", "", "1 /dev/zero", "There is no file '/dev/zero' that can be read."},

@@ -11,7 +11,6 @@
 #include <QStringList>
 
 #include <map>
-#include <utility>
 
 /// A household's books: its banks, and the last reconciliation of each account that has one.
 class Book
@@ -20,7 +19,7 @@ class Book
 
 public:
   /// `folder` is where the book's words for files start from.
-  explicit Book(QDir folder = QDir::current()) : folder_(std::move(folder)) {}
+  explicit Book(QDir const& folder = QDir::current()) : folder_(folder) {}
 
   /// Carries out a line, one command, and gives what there is to print. Throws what the library throws
   /// and BookError, with a text for the user and with nothing changed.

@@ -37,12 +37,12 @@ static QDataStream& operator>>(QDataStream& stream, Statement& statement)
 namespace {
 
 // Decades of a busy account. libofx takes four times as long for twice as much.
-constexpr qint64 mostBytes = 2 * 1024 * 1024;
+constexpr qint64 mostBytes = 2LL * 1024 * 1024;
 constexpr rlim_t mostSeconds = 10;
 
 struct Type
 {
-  char const* name;
+  char const* name = nullptr;
   QList<BankAccountTypes> kinds;
 };
 
@@ -60,7 +60,7 @@ std::array<Type, 8> const types{{
 
 // Takes in what the statement callback of libofx gets. A field that the file overfills has no zero at its
 // end, but QByteArrayView knows where its array ends.
-int append(OfxStatementData const data, void* statements)
+int append(OfxStatementData const data, void* statements) // clazy:exclude=function-args-by-ref
 {
   Statement statement;
   if (auto const* const account = data.account_ptr) {
