@@ -1,0 +1,94 @@
+#include <banking/BankMap.hpp>
+#include <banking/ReconciledBankAccount.hpp>
+
+#include <QString>
+
+#include <cstdlib>
+#include <functional>
+#include <gmock/gmock.h>
+#include <utility>
+
+using namespace orv::banking;
+using orv::accounting::AccountNumber;
+
+// Qt allocates with malloc, and so does operator new: both get the functions below in place of the C
+// library's.
+namespace {
+std::size_t allocations = 0;
+}
+extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier): the C library's own names for them
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+void* __libc_realloc(void* memory, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier)
+void* malloc(std::size_t size) noexcept
+{
+  return ++allocations, __libc_malloc(size);
+}
+void* calloc(std::size_t count, std::size_t size) noexcept
+{
+  return ++allocations, __libc_calloc(count, size);
+}
+void* realloc(void* memory, std::size_t size) noexcept
+{
+  return ++allocations, __libc_realloc(memory, size);
+}
+}
+
+TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
+{
+  constexpr auto savings = BankAccountTypes::Savings;
+  BankName const elm("Elm");
+  BankName const oak("Oak");
+  BankName const pine("Pine");
+  Bank bank(oak, {{AccountNumber(1), savings}, {AccountNumber(2), savings}}, false);
+  BankMap banks(std::map<BankName, Bank>{{elm, Bank(elm, {}, false)}, {oak, bank}});
+  BankMap const equal(banks);
+  ReconciledBankAccount account({elm, {AccountNumber(1), savings}}, mintar::Currency("CAD"));
+  QString const plainTexts[] = {"Chequeing", "Credit Card", "Loan", "Savings", "Goal", "Unknown"};
+
+  // The first three show that allocations by the standard library and by Qt are seen.
+  struct Case
+  {
+    char const* operation;
+    std::size_t allocations;
+    std::function<void()> call;
+  };
+  Case const cases[] = {
+      {"number to text", 1, [] { presentationText(AccountNumber(1)); }},
+      {"find, one node for each account", 2, [&] { banks.find(AccountNumber(2)); }},
+      {"names, one node for each name", 2, [&] { banks.names(); }},
+      {"find, absent", 0, [&] { banks.find(AccountNumber(3)); }},
+      {"hasBank", 0, [&] { banks.hasBank(elm) && banks.hasBank(pine); }},
+      {"bank and accessors", 0,
+       [&] {
+         auto const& found = banks.bank(oak);
+         found.accounts().contains(AccountNumber(1)) && found.isClosed() && found.name().isEmpty();
+         account.balance() == mintar::Money() && account.bankAccount().bankName.isEmpty() &&
+             account.reconciledOn();
+       }},
+      {"==", 0, [&] { EXPECT_TRUE(banks == equal && banks.bank(oak) == bank); }},
+      {"rename", 0, [&] { banks.rename(oak, pine), banks.rename(pine, oak); }},
+      {"kinds", 0,
+       [&] {
+         for (auto const& text : plainTexts) {
+           auto const type = toBankAccountTypes(text);
+           isAssetAccount(type), isLiabilityAccount(type), toAccountTypes(type);
+           toNonLocalisedText(type);
+         }
+       }},
+      {"moves", 0,
+       [&] {
+         banks = BankMap(std::move(banks));
+         bank = Bank(std::move(bank));
+         account = ReconciledBankAccount(std::move(account));
+       }},
+  };
+  for (auto const& [operation, expected, call] : cases) {
+    auto const before = allocations;
+    call();
+    auto const seen = allocations - before;
+    EXPECT_EQ(seen, expected) << operation;
+  }
+}
