@@ -1,3 +1,4 @@
+#include "BankWriter.hpp"
 #include "DebugBridge.hpp"
 
 #include <banking/Bank.hpp>
@@ -101,13 +102,8 @@ bool operator==(Bank const& lhs, Bank const& rhs)
 
 std::ostream& operator<<(std::ostream& stream, Bank const& bank)
 {
-  stream << "Bank: (" << bank.name() << "), Account Numbers: (";
-  char const* separator = "";
-  for (auto const& [number, type] : bank.accounts()) {
-    stream << separator << number << "=>" << type;
-    separator = ", ";
-  }
-  return stream << "), Is Closed: " << std::boolalpha << bank.isClosed() << ')';
+  BankWriter(stream).write(bank);
+  return stream;
 }
 
 QDebug operator<<(QDebug debug, Bank const& bank)

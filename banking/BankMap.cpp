@@ -1,3 +1,5 @@
+#include "BankWriter.hpp"
+
 #include <banking/BankError.hpp>
 #include <banking/BankMap.hpp>
 
@@ -18,10 +20,16 @@ namespace {
 
 using accounting::AccountNumber;
 
-// The account numbers that several banks hold, in ascending order.
-std::vector<AccountNumber> sharedNumbers(std::map<BankName, Bank> const& banks)
+// The account numbers that break a rule, in ascending order: the invalid one and those that several
+// banks hold.
+std::vector<AccountNumber> refusedNumbers(std::map<BankName, Bank> const& banks)
 {
+  std::size_t count = 0;
+  for (auto const& [name, bank] : banks) {
+    count += bank.accounts().size();
+  }
   std::vector<AccountNumber> numbers;
+  numbers.reserve(count);
   for (auto const& [name, bank] : banks) {
     for (auto const& [number, type] : bank.accounts()) {
       numbers.push_back(number);
@@ -29,13 +37,27 @@ std::vector<AccountNumber> sharedNumbers(std::map<BankName, Bank> const& banks)
   }
   std::sort(numbers.begin(), numbers.end());
 
-  std::vector<AccountNumber> shared;
-  for (std::size_t i = 1; i < numbers.size(); ++i) {
-    if (numbers[i - 1] == numbers[i]) {
-      shared.push_back(numbers[i]);
+  std::vector<AccountNumber> refused;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    if (numbers[i] == AccountNumber::invalid_ || (i > 0 && numbers[i - 1] == numbers[i])) {
+      refused.push_back(numbers[i]);
     }
   }
-  return shared;
+  return refused;
+}
+
+// The smallest account number of the bank that is among these.
+std::optional<AccountNumber> smallestAmong(std::vector<AccountNumber> const& numbers,
+                                           Bank const& bank)
+{
+  if (!numbers.empty()) { // seldom, and the accounts need not be walked again
+    for (auto const& [number, type] : bank.accounts()) {
+      if (std::binary_search(numbers.begin(), numbers.end(), number)) {
+        return number;
+      }
+    }
+  }
+  return std::nullopt;
 }
 
 // The smallest account number that both banks hold.
@@ -56,26 +78,26 @@ std::optional<AccountNumber> smallestShared(Bank const& lhs, Bank const& rhs)
 
 BankMap::BankMap(std::map<BankName, Bank> banks) : banks_(std::move(banks))
 {
-  auto const shared = sharedNumbers(banks_);
+  auto const refused = refusedNumbers(banks_);
   for (auto entry = banks_.cbegin(); entry != banks_.cend(); ++entry) {
     auto const& [name, bank] = *entry;
     if (name != bank.name()) {
       throw BankError(name, QObject::tr("The key name does not match the value name, %1.")
                                 .arg(bank.name().institution()));
     }
-    for (auto const& [number, type] : bank.accounts()) {
-      if (number == AccountNumber::invalid_) {
-        throw BankError(name, QObject::tr("A default account cannot be associated with a bank."));
-      }
-      if (std::binary_search(shared.begin(), shared.end(), number)) {
-        // No earlier bank holds it, or the walk would have ended there.
-        auto const other = holder(number, std::next(entry));
-        throw BankError(
-            name, QObject::tr(
-                      "The account '%1' is associated with the bank '%2' and cannot be used again.")
-                      .arg(presentationText(number), other->first.institution()));
-      }
+    auto const number = smallestAmong(refused, bank);
+    if (!number) {
+      continue;
     }
+    if (*number == AccountNumber::invalid_) {
+      throw BankError(name, QObject::tr("A default account cannot be associated with a bank."));
+    }
+    // No earlier bank holds it, or the walk would have ended there.
+    auto const other = holder(*number, std::next(entry));
+    throw BankError(
+        name,
+        QObject::tr("The account '%1' is associated with the bank '%2' and cannot be used again.")
+            .arg(presentationText(*number), other->first.institution()));
   }
 }
 
@@ -247,9 +269,11 @@ BankMap::Banks::const_iterator BankMap::holder(AccountNumber const& number,
 std::ostream& operator<<(std::ostream& stream, BankMap const& banks)
 {
   stream << "Bank Map (";
+  BankWriter writer(stream);
   char const* separator = "";
   for (auto const& [name, bank] : banks.banks_) {
-    stream << separator << name << "=>" << bank;
+    stream << separator << name << "=>";
+    writer.write(bank);
     separator = ", ";
   }
   return stream << ')';
