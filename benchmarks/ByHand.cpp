@@ -126,7 +126,7 @@ void write(std::ostream& stream, Banks const& banks)
            << ")=>Bank: (Financial Institution Name: (" << text << ")), Account Numbers: (";
     char const* accountSeparator = "";
     for (auto const& [number, type] : bank.accounts) {
-      stream << accountSeparator << number.integer() << "=>"
+      stream << accountSeparator << std::to_string(number.integer()) << "=>"
              << texts[static_cast<std::size_t>(type)];
       accountSeparator = ", ";
     }

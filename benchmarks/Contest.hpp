@@ -6,6 +6,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -60,28 +61,33 @@ Contestant contestant(std::string name, Subject subject, Operate operate)
           }};
 }
 
-/// Registers the operation: its contestants take turns, so that what disturbs the machine disturbs
-/// all alike. The least time of each is kept as a counter, in microseconds.
+/// Registers the operation. Its contestants take turns, so that what disturbs the machine disturbs all
+/// alike; they start in random order, as where in memory a subject lies matters. The least time of each
+/// is kept as a counter, in microseconds.
 inline benchmark::internal::Benchmark* compete(std::string const& operation,
                                                std::vector<Contestant> const& contestants)
 {
   auto const run = [=](benchmark::State& state) {
     struct Entry
     {
+      std::string name;
       std::function<double()> measure;
       double least = std::numeric_limits<double>::max();
     };
+    auto started = contestants;
+    std::shuffle(started.begin(), started.end(), std::mt19937(std::random_device()()));
     std::vector<Entry> entries;
-    for (auto const& contestant : contestants) {
-      entries.push_back({contestant.start()});
+    for (auto const& contestant : started) {
+      entries.push_back({contestant.name, contestant.start()});
+      entries.back().measure(); // the first time differs from those after it
     }
     for (auto _ : state) {
       for (auto& entry : entries) {
         entry.least = std::min(entry.least, entry.measure());
       }
     }
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-      state.counters[contestants[i].name] = entries[i].least * 1e6;
+    for (auto const& entry : entries) {
+      state.counters[entry.name] = entry.least * 1e6;
     }
   };
   return benchmark::RegisterBenchmark(operation.c_str(), run)
