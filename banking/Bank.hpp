@@ -86,6 +86,7 @@ ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
 /// Writes "Bank: (", the name, "), Account Numbers: (", the accounts as number=>kind, separated by
 /// ", ", "), Is Closed: ", true or false, and ")". The stream stays in `std::boolalpha`.
+/// Linear in the number of accounts.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 
 /// Writes the text that the standard stream gets, as one `QString`.

@@ -21,9 +21,9 @@ namespace orv::banking {
 /// in quotes; their placeholders stand for account numbers and bank names. `std::bad_alloc` leaves the
 /// registry as it was, too. A bank that is moved into a call is gone even where the call is refused.
 ///
-/// Below, B is the number of banks, A the number of accounts of the bank concerned and N the number of
-/// accounts of all banks. There is no index of account numbers: what asks for the holder of a number
-/// visits the banks.
+/// Below, B is the number of banks, A the number of accounts of one bank and N the number of accounts of
+/// all banks. There is no index of account numbers: what asks for the holder of a number visits the
+/// banks.
 class ORV_BANKING_EXPORT BankMap
 {
 public:
@@ -38,7 +38,7 @@ public:
   /// - "The account '%1' is associated with the bank '%2' and cannot be used again.", for the first
   ///   holder of the number, with the next holder.
   ///
-  /// O(N log N), with a temporary list of the N numbers.
+  /// O(B + N log N), with a temporary list of the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
 
   /// O(log B).
@@ -81,7 +81,8 @@ public:
   /// - "The account '%1' is already associated with the bank '%2' and cannot be added again.", with
   ///   the first bank that shares a number and the smallest number that it shares.
   ///
-  /// O(B a log A) with a and A the accounts of whichever bank of a pair has fewer and more.
+  /// O(B a log A) with a and A the accounts of whichever bank of a pair has fewer and more. So to build
+  /// a registry bank by bank costs O(B) times as much as to construct it from all banks at once.
   void add(Bank bank);
 
   /// Removes the bank and with it all its account numbers. Throws `BankError` "Cannot remove a bank
@@ -108,7 +109,7 @@ public:
   /// O(B a log A) with a and A as for `add`.
   void update(Bank bank);
 
-  /// Equal when the banks are. O(N).
+  /// Equal when the banks are. O(B + N).
   friend bool operator==(BankMap const& lhs, BankMap const& rhs)
   {
     return lhs.banks_ == rhs.banks_;
@@ -126,7 +127,7 @@ private:
   Banks banks_;
 };
 
-/// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". O(N).
+/// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". O(B + N).
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankMap const& banks);
 
 } // namespace orv::banking
