@@ -15,7 +15,7 @@ QDebug writeStreamForm(QDebug debug, T const& value)
   std::ostringstream text;
   text.exceptions(std::ios_base::badbit); // or a full memory would cut the text short, unnoticed
   text << value;
-  return debug << QString::fromStdString(text.str());
+  return debug << QString::fromUtf8(text.view());
 }
 
 } // namespace orv::banking

@@ -8,6 +8,8 @@
 class Ratios : public benchmark::ConsoleReporter
 {
 public:
+  Ratios() : ConsoleReporter(OO_Tabular) {}
+
   void ReportRuns(std::vector<Run> const& runs) override;
 
   /// For each size, writes how many times as long as the second contestant the first takes, beside what the

@@ -278,8 +278,8 @@ int main(int argc, char** argv)
     }
   }
 
-  std::vector<std::string> arguments{argv[0], "--benchmark_repetitions=3",
-                                     "--benchmark_min_time=0.3", "--benchmark_color=false"};
+  std::vector<std::string> arguments{argv[0], "--benchmark_repetitions=5",
+                                     "--benchmark_min_time=0.4"};
   arguments.insert(arguments.end(), argv + 1, argv + argc);
   std::vector<char*> pointers;
   for (auto& argument : arguments) {
