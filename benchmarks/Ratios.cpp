@@ -20,8 +20,8 @@ struct Row
 Row const rows[] = {
     {"construct", "library", "copy", "at most 1.5, country"},
     {"construct", "table", "library", "at least 10, country"},
-    {"construct, growth", "tenfold", "library", "at most 13, country"},
-    {"construct, to the letter", "walk", "library"},
+    {"construct", "tenfold", "library", "at most 13, country"},
+    {"construct", "walk", "library"},
     {"construct, refused", "library", "accepted", "at most 1.5, country"},
     {"find, absent", "library", "floor", "at most 1.2"},
     {"find, absent", "table", "library"},
