@@ -21,6 +21,7 @@ Row const rows[] = {
     {"construct", "library", "copy", "at most 1.5, country"},
     {"construct", "table", "library", "at least 10, country"},
     {"construct", "tenfold", "library", "at most 13, country"},
+    {"construct", "tenfold copy", "copy"},
     {"construct", "walk", "library"},
     {"construct, refused", "library", "accepted", "at most 1.5, country"},
     {"find, absent", "library", "floor", "at most 1.2"},
@@ -44,6 +45,8 @@ constexpr auto legend = R"(
 floor  a loop by hand over the same maps, which walks, searches and stores as the operation must; for
        a number added it writes the log message as well, and nobody reads it in either case
 copy   a copy of the map that is moved into the registry, or of the set of names
+tenfold  with ten times the banks: where even a copy takes far more than ten times as long, the
+       processor's cache has become too small
 walk   the rules of the registry to the letter: each number is searched in each other bank
 table  a database in memory: two tables with unique names and numbers, prepared statements, and one
        transaction for each operation; find gives no more than the name of the bank

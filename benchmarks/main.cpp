@@ -86,7 +86,9 @@ void construct(World const& world)
     auto const tenfold = [size = world.size] {
       return byName<Bank>(makeBanks(size.banks * 10, size.accountsEach));
     };
-    compete(world.named("construct"), {contestant("tenfold", tenfold, copy, construct)});
+    compete(world.named("construct"), {contestant("tenfold", tenfold, copy, construct),
+                                       contestant("tenfold copy", tenfold, nothing,
+                                                  [](Banks const& banks, int) { return banks; })});
     auto const keepRules = [](Banks const& banks, int) { return byhand::keepRules(banks); };
     auto* const walk =
         compete(world.named("construct"), {contestant("walk", world.map(), nothing, keepRules)});
