@@ -38,7 +38,7 @@ public:
   /// - "The account '%1' is associated with the bank '%2' and cannot be used again.", for the first
   ///   holder of the number, with the next holder.
   ///
-  /// O(B + N log N), with a temporary list of the N numbers.
+  /// O(B + N), with two temporary lists of the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
 
   /// O(log B).

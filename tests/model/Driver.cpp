@@ -23,7 +23,8 @@ namespace {
 QString const texts[] = {"A",           "a",      "%1 %2",  "%L1%99",   "A ",
                          " \"\\ ",      "\x01\n", QChar(0), "\uFF21",   "\U0001F3E6",
                          QChar(0xD83C), "",       " ",      QChar(0xA0)};
-constexpr unsigned int numbers[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 0, 2147483648U, 4294967295U};
+constexpr unsigned int numbers[] = {1,   2,     3,        4,           5,           6,
+                                    257, 65537, 16777217, 2147483648U, 4294967295U, 0};
 constexpr int kinds[] = {1, 2, 3, 4, 5, 1, 2, 3, 4, 0, 6, -1};
 
 // Draws the arguments of operations; zeros once all bytes are read.
