@@ -83,12 +83,14 @@ void Ratios::write(std::ostream& stream) const
     stream << std::left << std::setw(26) << row.operation << std::setw(28)
            << row.first + " / " + row.second << std::right;
     for (auto const& size : sizes) {
-      auto const times = times_.find(row.operation + '/' + size.name);
+      auto const measured = times_.find(row.operation + '/' + size.name);
+      auto const times =
+          measured == times_.end() ? std::map<std::string, double>() : measured->second;
       stream << std::setw(11);
-      if (times == times_.end()) {
-        stream << '-';
+      if (times.contains(row.first) && times.contains(row.second)) {
+        stream << times.at(row.first) / times.at(row.second);
       } else {
-        stream << times->second.at(row.first) / times->second.at(row.second);
+        stream << '-';
       }
     }
     stream << "   " << row.target << '\n';
