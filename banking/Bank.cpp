@@ -1,4 +1,3 @@
-#include "BankWriter.hpp"
 #include "DebugBridge.hpp"
 
 #include <banking/Bank.hpp>
@@ -9,7 +8,9 @@
 
 #include <algorithm>
 #include <ostream>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace orv::banking {
 
@@ -102,8 +103,21 @@ bool operator==(Bank const& lhs, Bank const& rhs)
 
 std::ostream& operator<<(std::ostream& stream, Bank const& bank)
 {
-  BankWriter(stream).write(bank);
-  return stream;
+  stream << "Bank: (" << bank.name() << "), Account Numbers: (";
+  // Accounts are many and kinds are few: the text of each is looked up once.
+  std::vector<std::pair<BankAccountTypes, std::string>> kinds;
+  char const* separator = "";
+  for (auto const& [number, type] : bank.accounts()) {
+    stream << separator << number << "=>";
+    auto kind = std::find_if(kinds.begin(), kinds.end(),
+                             [type = type](auto const& known) { return known.first == type; });
+    if (kind == kinds.end()) {
+      kind = kinds.emplace(kind, type, presentationText(type).toStdString());
+    }
+    stream << kind->second;
+    separator = ", ";
+  }
+  return stream << "), Is Closed: " << std::boolalpha << bank.isClosed() << ')';
 }
 
 QDebug operator<<(QDebug debug, Bank const& bank)

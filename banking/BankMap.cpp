@@ -1,5 +1,3 @@
-#include "BankWriter.hpp"
-
 #include <banking/BankError.hpp>
 #include <banking/BankMap.hpp>
 
@@ -292,11 +290,9 @@ BankMap::Banks::const_iterator BankMap::holder(AccountNumber const& number,
 std::ostream& operator<<(std::ostream& stream, BankMap const& banks)
 {
   stream << "Bank Map (";
-  BankWriter writer(stream);
   char const* separator = "";
   for (auto const& [name, bank] : banks.banks_) {
-    stream << separator << name << "=>";
-    writer.write(bank);
+    stream << separator << name << "=>" << bank;
     separator = ", ";
   }
   return stream << ')';

@@ -1,40 +1,16 @@
+#include "support/Allocations.hpp"
+
 #include <banking/BankMap.hpp>
 #include <banking/ReconciledBankAccount.hpp>
 
 #include <QString>
 
-#include <cstdlib>
 #include <functional>
 #include <gmock/gmock.h>
 #include <utility>
 
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
-
-// Qt allocates with malloc, and so does operator new: both get the functions below in place of the C
-// library's.
-namespace {
-std::size_t allocations = 0;
-}
-extern "C" {
-// NOLINTBEGIN(bugprone-reserved-identifier): the C library's own names for them
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* memory, std::size_t size);
-// NOLINTEND(bugprone-reserved-identifier)
-void* malloc(std::size_t size) noexcept
-{
-  return ++allocations, __libc_malloc(size);
-}
-void* calloc(std::size_t count, std::size_t size) noexcept
-{
-  return ++allocations, __libc_calloc(count, size);
-}
-void* realloc(void* memory, std::size_t size) noexcept
-{
-  return ++allocations, __libc_realloc(memory, size);
-}
-}
 
 TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
 {
@@ -52,7 +28,7 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
   struct Case
   {
     char const* operation;
-    std::size_t allocations;
+    long allocations;
     std::function<void()> call;
   };
   Case const cases[] = {
@@ -86,9 +62,9 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
        }},
   };
   for (auto const& [operation, expected, call] : cases) {
-    auto const before = allocations;
+    auto const before = Allocations::made;
     call();
-    auto const seen = allocations - before;
+    auto const seen = Allocations::made - before;
     EXPECT_EQ(seen, expected) << operation;
   }
 }
