@@ -4,9 +4,10 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <mutex>
 #include <utility>
 
-/// Keeps what is logged while it lives. One at a time.
+/// Keeps what is logged while it lives, on whichever thread. One at a time.
 class LogRecorder
 {
 public:
@@ -25,6 +26,8 @@ private:
     auto const isPlain = type == QtInfoMsg && qstrcmp(context.category, "default") == 0 &&
                          context.file == nullptr && context.function == nullptr &&
                          context.line == 0;
+    static std::mutex oneThread;
+    std::scoped_lock const lock(oneThread);
     messages() += isPlain ? text : "Not a plain info message: " + text;
   }
 
