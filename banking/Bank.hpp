@@ -14,9 +14,9 @@ namespace orv::banking {
 
 /// A bank: its name, the ledger account numbers held there with their kinds, and whether it is open.
 ///
-/// Every bank but a default-constructed one has a name, no invalid account number and no account of
-/// the kind `Unknown`. A change that would break a rule throws `BankError`, which names this bank,
-/// and leaves the bank as it was. Each change first writes one info message to Qt's default logging
+/// Every bank but a default-constructed or moved-from one has a name, no invalid account number and no
+/// account of the kind `Unknown`. A change that would break a rule throws `BankError`, which names this
+/// bank, and leaves the bank as it was. Each change first writes one info message to Qt's default logging
 /// category, whether it is then refused or not.
 ///
 /// A change for which there is no memory throws `std::bad_alloc` and leaves the bank as it was, too;
@@ -68,7 +68,7 @@ public:
   /// Lets go of `number`; a closed bank does so as well. Logs "Removing account number", the number,
   /// "from", and the whole bank as it was, which makes the cost linear in the number of accounts.
   /// Throws `BankError` "The account '%1' is not associated with the financial institution." with the
-  /// number.
+  /// number, and `std::logic_error` as `BankAccountTypes` says where a kind held here is none.
   void remove(accounting::AccountNumber const& number);
 
 private:
@@ -85,11 +85,12 @@ private:
 ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
 /// Writes "Bank: (", the name, "), Account Numbers: (", the accounts as number=>kind, separated by
-/// ", ", "), Is Closed: ", true or false, and ")". The stream stays in `std::boolalpha`.
+/// ", ", "), Is Closed: ", true or false, and ")". The stream stays in `std::boolalpha`. Throws
+/// `std::logic_error` as `BankAccountTypes` says, when the text before the kind has been written.
 /// Linear in the number of accounts.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 
-/// Writes the text that the standard stream gets, as one `QString`.
+/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, Bank const& bank);
 
 } // namespace orv::banking

@@ -28,7 +28,7 @@ ORV_BANKING_EXPORT QString presentationText(BankAccount const& account,
 /// kind has been written.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccount const& account);
 
-/// Writes the text that the standard stream gets, as one `QString`.
+/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 
 } // namespace orv::banking

@@ -55,7 +55,7 @@ ORV_BANKING_EXPORT accounting::AccountTypes toAccountTypes(BankAccountTypes cons
 /// Writes the text of the kind in the user's language, in UTF-8.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccountTypes const& type);
 
-/// Writes the text that the standard stream gets, as one `QString`.
+/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type);
 
 /// A ledger account number and the kind of bank account that it stands for. Nothing is checked.

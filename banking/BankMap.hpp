@@ -127,7 +127,8 @@ private:
   Banks banks_;
 };
 
-/// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". O(B + N).
+/// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". The stream stays in
+/// `std::boolalpha` where there are banks. Throws as the operator of `Bank` does. O(B + N).
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankMap const& banks);
 
 } // namespace orv::banking

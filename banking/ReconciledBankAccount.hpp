@@ -66,7 +66,7 @@ private:
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             ReconciledBankAccount const& account);
 
-/// Writes the text that the standard stream gets, as one `QString`.
+/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& account);
 
 } // namespace orv::banking
