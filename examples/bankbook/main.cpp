@@ -73,6 +73,7 @@ ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
     }
     auto const line = file.readLine();
     if (line.isEmpty()) {
+      file.peek(1); // or an error of standard input would pass for its end
       break;
     }
     try {
