@@ -43,6 +43,10 @@
         <source>standard input</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Book</name>

@@ -43,6 +43,10 @@
         <source>standard input</source>
         <translation>Standardeingabe</translation>
     </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Die Standardausgabe lässt sich nicht schreiben.</translation>
+    </message>
 </context>
 <context>
     <name>Book</name>

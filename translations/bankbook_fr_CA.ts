@@ -43,6 +43,10 @@
         <source>standard input</source>
         <translation>entrée standard</translation>
     </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
 </context>
 <context>
     <name>Book</name>

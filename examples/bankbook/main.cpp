@@ -91,6 +91,10 @@ ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
     err << Bankbook::tr("%1 cannot be read: %2").arg(name, file.errorString()) << '\n';
     return NotRun;
   }
+  if (out.status() != QTextStream::Ok) {
+    err << Bankbook::tr("Standard output cannot be written.") << '\n';
+    return NotRun;
+  }
   return status;
 }
 
