@@ -45,10 +45,6 @@ function(orv_shared_library package)
       FILE_SET HEADERS BASE_DIRS "${ARG_INCLUDE_ROOT}" FILES ${ARG_HEADERS}
       FILE_SET generated_headers TYPE HEADERS
         BASE_DIRS "${CMAKE_CURRENT_BINARY_DIR}/include" FILES ${export_header})
-  # A consumer's warnings are its own: the installed headers are system headers to it.
-  target_include_directories(${package} SYSTEM INTERFACE
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/orv>)
-
   set(config_dependencies "")
   set(pc_requires "")
   while(ARG_REQUIRES)
