@@ -20,15 +20,16 @@ namespace orv::banking {
 /// category, whether it is then refused or not.
 ///
 /// A change for which there is no memory throws `std::bad_alloc` and leaves the bank as it was, too;
-/// its message may end early. Qt calls the message handler where an exception ends the program, so a
-/// handler must not throw; Qt's own needs memory for every message.
+/// its message may end early. Qt calls the message handler where an exception ends the program: a
+/// handler must not throw, and with Qt's own, which needs memory for every message, a full memory ends
+/// the program.
 class ORV_BANKING_EXPORT Bank
 {
 public:
   /// An open bank without a name and without accounts; nothing is checked.
   Bank() = default;
 
-  /// Takes the three as they are; logs nothing. Throws `BankError`, the first that applies of
+  /// Takes the three as they are, a kind that has no name included; logs nothing. Throws `BankError`, the first that applies of
   /// - "The name of a financial institution cannot be empty.", for an empty bank name;
   /// - "The bank account number of a financial institution cannot be invalid.";
   /// - "The bank account type of a financial institution cannot be unknown.".

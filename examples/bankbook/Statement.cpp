@@ -187,8 +187,11 @@ QList<Statement> readStatements(QString const& path)
   if (child == 0) {
     parse(folder);
   }
+  if (child < 0) {
+    throw BookError(qt_error_string(errno));
+  }
   auto status = -1;
-  while (child > 0 && waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
 
   QList<Statement> statements;

@@ -101,6 +101,7 @@ std::ostream& operator<<(std::ostream& stream, Money const& money)
 QDebug operator<<(QDebug debug, mintar::Money const& money)
 {
   std::ostringstream text;
+  text.exceptions(std::ios_base::badbit); // or a full memory would cut the text short, unnoticed
   text << money;
   return debug << QString::fromStdString(text.str());
 }
