@@ -154,6 +154,10 @@
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>KIND is one of: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>

@@ -154,6 +154,10 @@
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Das Konto %1 ist nicht von der Art, für die der Auszug ist, „%2“.</translation>
     </message>
+    <message>
+        <source>KIND is one of: %1.</source>
+        <translation>ART ist eine von: %1.</translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>

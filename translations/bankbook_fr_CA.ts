@@ -154,6 +154,10 @@
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
     </message>
+    <message>
+        <source>KIND is one of: %1.</source>
+        <translation>TYPE est l’un de&#xa0;: %1.</translation>
+    </message>
 </context>
 <context>
     <name>BookReader</name>

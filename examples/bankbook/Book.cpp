@@ -122,7 +122,13 @@ QString Book::usage()
   for (auto const& [name, command] : commands()) {
     text += QStringLiteral("  ") + command.written(name) + u'\n';
   }
-  return text.chopped(1);
+  QStringList kinds;
+  for (auto const kind :
+       {BankAccountTypes::Chequeing, BankAccountTypes::CreditCard, BankAccountTypes::Loan,
+        BankAccountTypes::Savings, BankAccountTypes::Goal}) {
+    kinds += presentationText(kind);
+  }
+  return text + u'\n' + tr("KIND is one of: %1.").arg(kinds.join(QStringLiteral(", ")));
 }
 
 QString Book::execute(QByteArrayView line)

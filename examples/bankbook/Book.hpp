@@ -25,7 +25,7 @@ public:
   /// and BookError, with a text for the user and with nothing changed.
   QString execute(QByteArrayView line);
 
-  /// How each command is written, a line each.
+  /// How each command is written, a line each, and which kinds of account there are.
   static QString usage();
 
 private:
