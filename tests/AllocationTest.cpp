@@ -22,16 +22,16 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
   BankMap banks(std::map<BankName, Bank>{{elm, Bank(elm, {}, false)}, {oak, bank}});
   BankMap const equal(banks);
   ReconciledBankAccount account({elm, {AccountNumber(1), savings}}, mintar::Currency("CAD"));
+  mintar::Money const dollars(mintar::Currency("CAD"), 7);
   QString const plainTexts[] = {"Chequeing", "Credit Card", "Loan", "Savings", "Goal", "Unknown"};
 
   // The first three show that allocations by the standard library and by Qt are seen.
-  struct Case
+  struct
   {
     char const* operation;
     long allocations;
     std::function<void()> call;
-  };
-  Case const cases[] = {
+  } const cases[] = {
       {"number to text", 1, [] { presentationText(AccountNumber(1)); }},
       {"find, one node for each account", 2, [&] { banks.find(AccountNumber(2)); }},
       {"names, one node for each name", 2, [&] { banks.names(); }},
@@ -44,6 +44,7 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
          account.balance() == mintar::Money() && account.bankAccount().bankName.isEmpty() &&
              account.reconciledOn();
        }},
+      {"reconcile", 0, [&] { account.reconcile(QDate(2026, 3, 31), dollars); }},
       {"==", 0, [&] { EXPECT_TRUE(banks == equal && banks.bank(oak) == bank); }},
       {"rename", 0, [&] { banks.rename(oak, pine), banks.rename(pine, oak); }},
       {"kinds", 0,

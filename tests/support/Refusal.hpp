@@ -36,15 +36,19 @@ struct Refusal
   QString message;
 };
 
-/// Expects the refusal in plain and in translated text.
-template <typename Subject>
-void expectRefused(Refusal<Subject> const& refusal, Subject& subject)
+/// Expects each refusal in plain and in translated text, and that it leaves the subject as it was.
+template <typename Subject, typename Refusals>
+void expectRefusals(Subject const& subject, Refusals const& refusals)
 {
-  auto const expectText = [&](QString const& mark) {
-    expectThrows<orv::banking::BankError>(bankErrorText(refusal.bank, refusal.message, mark),
-                                          [&] { refusal.call(subject); });
-  };
-  expectText({});
-  ScopedTranslator const translator;
-  expectText("~");
+  for (Refusal<Subject> const& refusal : refusals) {
+    auto changed = subject;
+    auto const expectText = [&](QString const& mark) {
+      expectThrows<orv::banking::BankError>(bankErrorText(refusal.bank, refusal.message, mark),
+                                            [&] { refusal.call(changed); });
+    };
+    expectText({});
+    ScopedTranslator const translator;
+    expectText("~");
+    EXPECT_EQ(streamed(changed), streamed(subject)) << refusal.message.toStdString();
+  }
 }
