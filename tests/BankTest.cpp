@@ -11,22 +11,19 @@ constexpr auto unknown = BankAccountTypes::Unknown;
 AccountNumber const none;
 AccountNumber const three(3);
 BankName const name("Acme %1 %2");
-
-Bank openBank(BankName const& name, AccountNumber const& number, BankAccountTypes type)
-{
-  return Bank(name, {{number, type}}, false);
-}
+std::map<AccountNumber, BankAccountTypes> const invalid{{none, unknown}};
+std::map<AccountNumber, BankAccountTypes> const ofUnknownType{{three, unknown}};
 
 } // namespace
 
 TEST(Bank, RefusesToBreakItsRules)
 {
   Refusal<Bank> const refusals[] = {
-      {[](auto&) { openBank(BankName(), none, unknown); }, "",
+      {[](auto&) { Bank(BankName(), invalid, true); }, "",
        "The name of a financial institution cannot be empty."},
-      {[](auto&) { openBank(name, none, unknown); }, "Acme %1 %2",
+      {[](auto&) { Bank(name, invalid, true); }, "Acme %1 %2",
        "The bank account number of a financial institution cannot be invalid."},
-      {[](auto&) { openBank(name, three, unknown); }, "Acme %1 %2",
+      {[](auto&) { Bank(name, ofUnknownType, true); }, "Acme %1 %2",
        "The bank account type of a financial institution cannot be unknown."},
       {[](auto& bank) { bank.close(); }, "Acme %1 %2",
        "Cannot close a bank that is already closed."},

@@ -56,10 +56,7 @@ TEST(Book, RefusesLinesAndStaysAsItWas)
 {
   Book book;
   auto const before = listed(book, {"bank Elm 1=Loan", "reconcile 1 2026-01-31 -5 CAD"});
-  struct
-  {
-    char const *line, *text;
-  } const refusals[] = {
+  std::pair<char const*, char const*> const refusals[] = {
       {"fly", "There is no command 'fly'."},
       {"open", "The command is written: open NAME"},
       {"list all", "The command is written: list"},
@@ -78,8 +75,8 @@ TEST(Book, RefusesLinesAndStaysAsItWas)
                             "financial institution cannot be invalid."},
   };
   for (auto const& refusal : refusals) {
-    EXPECT_THAT([&] { book.execute(refusal.line); },
-                testing::ThrowsMessage<std::exception>(refusal.text));
+    EXPECT_THAT([&] { book.execute(refusal.first); },
+                testing::ThrowsMessage<std::exception>(refusal.second));
   }
   EXPECT_EQ(listed(book, {}), before);
 }
@@ -100,10 +97,8 @@ TEST(Book, KeepsBalancesWithTheirBank)
       "Big Elm  open         4  Goal         asset\n");
   EXPECT_EQ(book.execute("find 1"), "Big Elm: 1 (Credit Card)\n");
   EXPECT_EQ(book.execute("find 5"), "No bank holds the account number 5.\n");
-  expectThrows<orv::banking::BankError>(
-      "There is an issue with the bank 'Big Elm'. The last reconciled date, 31 Jan 2026, cannot be "
-      "updated to be in the past, 30 Jan 2026.",
-      [&] { book.execute("reconcile 1 2026-01-30 1 CAD"); });
+  EXPECT_THAT([&] { book.execute("reconcile 1 2026-01-30 1 CAD"); },
+              testing::ThrowsMessage<orv::banking::BankError>(HasSubstr("'Big Elm'. The last")));
 
   EXPECT_THAT(listed(book, {"bank Oak", "update \"Big Elm\" 1=Loan 2=Goal"}),
               Not(HasSubstr("7.25")));

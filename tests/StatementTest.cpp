@@ -44,11 +44,8 @@ TEST(Statement, ReconcilesAnAccountOrIsRefused)
   auto const several = shipped("savings-and-card-2025-12.ofx");
   QString const unread("The statement's %1 cannot be read.");
   QString const notThatKind("The account %1 is not of the kind that the statement is for, '%2'.");
-  struct
-  {
-    QByteArray before, after, arguments;
-    QString outcome;
-  } const rows[]{
+  // What is replaced in the statement by what, the command's arguments, and its outcome.
+  std::tuple<QByteArray, QByteArray, QByteArray, QString> const rows[]{
       {"", "", "1 x", "2090.20 CAD 31 Dec 2025"},
       {"1231235959[-5:EST]", "1231", "1 x", "2090.20 CAD 31 Dec 2025"},
       {"1231235959[-5:EST]", "1231120000[-5:EST]", "1 x", "2090.20 CAD 31 Dec 2025"},
@@ -81,10 +78,9 @@ TEST(Statement, ReconcilesAnAccountOrIsRefused)
   };
   for (auto const* const zone : {"America/Vancouver", "Pacific/Auckland", "Pacific/Kiritimati"}) {
     qputenv("TZ", zone);
-    for (auto const& row : rows) {
-      SCOPED_TRACE(row.after.left(40).toStdString());
-      auto content = chequeing;
-      EXPECT_EQ(outcome(content.replace(row.before, row.after), row.arguments), row.outcome);
+    for (auto const& [before, after, arguments, expected] : rows) {
+      SCOPED_TRACE(after.left(40).toStdString());
+      EXPECT_EQ(outcome(QByteArray(chequeing).replace(before, after), arguments), expected);
     }
   }
 }

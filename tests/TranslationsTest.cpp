@@ -21,12 +21,8 @@ TEST(Translations, LetKindsBeReadBackAndTellWhatARefusalIsAbout)
   AccountNumber const seven(7);
   BankMap banks(
       {{elm, Bank(elm, {{seven, BankAccountTypes::Loan}}, false)}, {oak, Bank(oak, {}, false)}});
-  struct
-  {
-    std::function<void()> call;
-    std::string number; // "" where the text names none
-    std::string otherBank;
-  } const refusals[] = {
+  // With the number and the other bank that the text names.
+  std::tuple<std::function<void()>, std::string, std::string> const refusals[] = {
       {[&] { banks.add(Bank(oak, {}, false)); }, "", ""},
       {[&] { banks.rename(oak, elm); }, "", "Elm"},
       {[&] { banks.add(oak, seven, BankAccountTypes::Loan); }, "7", "Elm"},

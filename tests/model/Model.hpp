@@ -92,18 +92,15 @@ struct Bank
            "), Is Closed: " + (isClosed ? "true)" : "false)");
   }
 
-  void close()
-  {
-    log += "Closing " + logged(nameText(name));
-    check(!isClosed, name, "Cannot close a bank that is already closed.");
-    isClosed = true;
-  }
+  void close() { change("Closing", true, "Cannot close a bank that is already closed."); }
 
-  void open()
+  void open() { change("Opening", false, "Cannot open a bank that is already opened."); }
+
+  void change(QString const& verb, bool closes, QString const& message)
   {
-    log += "Opening " + logged(nameText(name));
-    check(isClosed, name, "Cannot open a bank that is already opened.");
-    isClosed = false;
+    log += verb + " " + logged(nameText(name));
+    check(isClosed != closes, name, message);
+    isClosed = closes;
   }
 
   // Where a kind has no text the message ends before it, here and in the next.

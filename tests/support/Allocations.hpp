@@ -17,13 +17,11 @@ struct Allocations
 class FullMemory
 {
 public:
-  explicit FullMemory(long room, bool stays = true) noexcept
+  FullMemory(long room, bool stays) noexcept
   {
     Allocations::failed = 0;
     Allocations::stays = stays;
     Allocations::room = room;
   }
   ~FullMemory() { Allocations::room = -1; }
-  FullMemory(FullMemory const&) = delete;
-  FullMemory& operator=(FullMemory const&) = delete;
 };

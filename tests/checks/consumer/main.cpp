@@ -4,25 +4,21 @@
 #include <banking/ReconciledBankAccount.hpp>
 
 #include <cstring>
-#include <iostream>
 
 using namespace orv::banking;
 
 // Gives 0 when the library's refusals arrive here by their type, and with their text.
 int main()
 {
-  int missed = 2;
   try {
     BankMap().close(BankName("Elm"));
   } catch (BankError const& refusal) {
-    std::cout << refusal.what() << '\n';
-    missed -= std::strcmp(refusal.what(), "There is an issue with the bank 'Elm'. "
-                                          "Cannot close a bank that does not exist.") == 0;
+    try {
+      ReconciledBankAccount({}, mintar::Money(), QDate(2026, 2, 1)).reconcile(QDate(), {});
+    } catch (orv::foundation::Error const&) {
+      return std::strcmp(refusal.what(), "There is an issue with the bank 'Elm'. "
+                                         "Cannot close a bank that does not exist.");
+    }
   }
-  try {
-    ReconciledBankAccount({}, mintar::Money(), QDate(2026, 2, 1)).reconcile(QDate(), {});
-  } catch (orv::foundation::Error const&) {
-    --missed;
-  }
-  return missed;
+  return 1;
 }
