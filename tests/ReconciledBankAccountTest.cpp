@@ -48,7 +48,7 @@ TEST(ReconciledBankAccount, HoldsWhatItsModelHolds)
   QString currency("CAD");
   int day = -1; // where there is none
   for (int step = 0; step < 5000; ++step) {
-    qint64 const newAmount = random() % 1000;
+    auto const newAmount = static_cast<qint64>(random() % 1000);
     QString const newCurrency(std::array{"CAD", "EUR", ""}[random() % 3]);
     auto const newDay = static_cast<int>(random() % 21);
     Money const money(Currency(newCurrency), newAmount);
