@@ -17,8 +17,8 @@ namespace {
 struct Kind
 {
   QStringView plainText;
-  char const* sourceText; // the same text, for the translator
-  accounting::AccountTypes accountType;
+  char const* sourceText = nullptr; // the same text, for the translator
+  accounting::AccountTypes accountType{};
 };
 
 // By value of the enumeration.

@@ -9,7 +9,6 @@
 #include <set>
 
 using namespace orv::banking;
-using orv::accounting::AccountNumber;
 
 namespace {
 

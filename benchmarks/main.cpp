@@ -161,7 +161,7 @@ void update(World const& world)
   Bank const bank(world.shared->front().name(), makeFreeAccounts(1'000), false);
   compete(world.named("update, 1,000 numbers"),
           {contestant(
-               "library", world.library(), [=](auto&) { return bank; },
+               "library", world.library(), [=](auto&) { return Bank(bank); },
                [](BankMap& banks, Bank& bank) { return banks.update(std::move(bank)), 0; }),
            contestant(
                "floor", world.byHand(), [=](auto&) { return byhand::Bank(bank); },

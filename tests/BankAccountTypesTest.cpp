@@ -54,7 +54,8 @@ TEST(BankAccountTypes, RefuseOtherTextsAndValues)
 {
   auto const text = QStringLiteral("Failed to convert from the %1 value '%2' to %3 type for "
                                    "'N3orv7banking16BankAccountTypesE'.");
-  for (QString const weak : {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "Épargne"}) {
+  for (auto const& weak : std::initializer_list<QString>{"", "credit card", "CreditCard", " Loan",
+                                                         "Loan ", "%2", "Épargne"}) {
     expectThrows<std::logic_error>(text.arg("weak", weak, "another"),
                                    [&] { toBankAccountTypes(weak); });
   }

@@ -12,7 +12,7 @@ namespace {
 struct Exception
 {
   QStringView isoCode;
-  int decimals;
+  int decimals = 2;
 };
 
 // The currencies in circulation whose minor unit is not a hundredth, after ISO 4217.

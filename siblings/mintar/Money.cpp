@@ -58,7 +58,8 @@ Money& Money::operator=(Money const& other)
   if (!currency_.isoCode().isEmpty() && currency_ != other.currency_) {
     throw std::invalid_argument("Cannot assign an amount of money in another currency.");
   }
-  return assign(other);
+  assign(other);
+  return *this;
 }
 
 Money& Money::assign(Money const& other) noexcept
