@@ -18,9 +18,13 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
   BankName const elm("Elm");
   BankName const oak("Oak");
   BankName const pine("Pine");
+  BankName const other("Other");
   Bank bank(oak, {{AccountNumber(1), savings}, {AccountNumber(2), savings}}, false);
   BankMap banks(std::map<BankName, Bank>{{elm, Bank(elm, {}, false)}, {oak, bank}});
   BankMap const equal(banks);
+  std::map<AccountNumber, BankAccountTypes> accounts{{AccountNumber(3), savings}};
+  std::map<BankName, Bank> map{{oak, bank}};
+  Bank added(pine, {{AccountNumber(4), savings}}, false);
   ReconciledBankAccount account({elm, {AccountNumber(1), savings}}, mintar::Currency("CAD"));
   mintar::Money const dollars(mintar::Currency("CAD"), 7);
   QString const plainTexts[] = {"Chequeing", "Credit Card", "Loan", "Savings", "Goal", "Unknown"};
@@ -30,8 +34,10 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
       {"number to text", 1, [] { presentationText(AccountNumber(1)); }},
       {"find, one node for each account", 2, [&] { banks.find(AccountNumber(2)); }},
       {"names, one node for each name", 2, [&] { banks.names(); }},
+      {"construct, two lists of the numbers", 2, [&] { BankMap const taken(std::move(map)); }},
+      {"construct a bank", 0, [&] { Bank const taken(oak, std::move(accounts), false); }},
       {"find, absent", 0, [&] { banks.find(AccountNumber(3)); }},
-      {"hasBank", 0, [&] { banks.hasBank(elm) && banks.hasBank(pine); }},
+      {"hasBank", 0, [&] { banks.hasBank(elm) && banks.hasBank(other); }},
       {"bank and accessors", 0,
        [&] {
          auto const& found = banks.bank(oak);
@@ -44,7 +50,8 @@ TEST(Allocation, TakesPlaceOnlyWhereACopyIsGiven)
        [&] {
          EXPECT_TRUE(banks == equal && banks.bank(oak) == bank && banks.bank(elm) != Bank());
        }},
-      {"rename", 0, [&] { banks.rename(oak, pine), banks.rename(pine, oak); }},
+      {"add a bank, its node", 1, [&] { banks.add(std::move(added)); }},
+      {"rename", 0, [&] { banks.rename(oak, other), banks.rename(other, oak); }},
       {"kinds", 0,
        [&] {
          for (auto const& text : plainTexts) {
