@@ -280,8 +280,7 @@ void BankMap::update(Bank bank)
   entry->second = std::move(bank);
 }
 
-BankMap::Banks::const_iterator BankMap::holder(AccountNumber const& number,
-                                               Banks::const_iterator first) const
+BankMap::const_iterator BankMap::holder(AccountNumber const& number, const_iterator first) const
 {
   return std::find_if(first, banks_.end(),
                       [&](auto const& entry) { return entry.second.accounts().contains(number); });
@@ -291,7 +290,7 @@ std::ostream& operator<<(std::ostream& stream, BankMap const& banks)
 {
   stream << "Bank Map (";
   char const* separator = "";
-  for (auto const& [name, bank] : banks.banks_) {
+  for (auto const& [name, bank] : banks) {
     stream << separator << name << "=>" << bank;
     separator = ", ";
   }

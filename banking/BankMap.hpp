@@ -41,6 +41,16 @@ public:
   /// O(B + N), with two temporary lists of the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
 
+  /// Iterates over the banks, each a pair of its name and itself.
+  using const_iterator = std::map<BankName, Bank>::const_iterator;
+
+  /// The first bank in name order. The iterator is valid until its bank is removed or renamed or the
+  /// registry is destroyed.
+  [[nodiscard]] const_iterator begin() const noexcept { return banks_.begin(); }
+
+  /// The end of the banks.
+  [[nodiscard]] const_iterator end() const noexcept { return banks_.end(); }
+
   /// O(log B).
   bool hasBank(BankName const& name) const noexcept;
 
@@ -115,16 +125,11 @@ public:
     return lhs.banks_ == rhs.banks_;
   }
 
-  friend ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankMap const& banks);
-
 private:
-  using Banks = std::map<BankName, Bank>;
-
   // The first bank from `first` on that holds the number, or the end.
-  Banks::const_iterator holder(accounting::AccountNumber const& number,
-                               Banks::const_iterator first) const;
+  const_iterator holder(accounting::AccountNumber const& number, const_iterator first) const;
 
-  Banks banks_;
+  std::map<BankName, Bank> banks_;
 };
 
 /// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". The stream stays in
