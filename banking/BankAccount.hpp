@@ -4,6 +4,8 @@
 #include <banking/BankName.hpp>
 #include <banking/Export.hpp>
 
+#include <QTypeInfo>
+
 #include <iosfwd>
 
 namespace orv::banking {
@@ -32,3 +34,5 @@ ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccount co
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 
 } // namespace orv::banking
+
+Q_DECLARE_TYPEINFO(orv::banking::BankAccount, Q_RELOCATABLE_TYPE);

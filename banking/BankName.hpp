@@ -2,8 +2,13 @@
 
 #include <banking/Export.hpp>
 
+#include <QHashFunctions>
 #include <QString>
+#include <QTypeInfo>
 
+#include <compare>
+#include <cstddef>
+#include <functional>
 #include <iosfwd>
 
 class QDebug;
@@ -40,9 +45,21 @@ inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
 }
 
 /// The order of the texts by UTF-16 code unit.
+inline std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs) noexcept
+{
+  return lhs.institution().compare(rhs.institution()) <=> 0;
+}
+
+/// The same order, for callers that name this operator.
 inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 {
-  return lhs.institution() < rhs.institution();
+  return (lhs <=> rhs) < 0;
+}
+
+/// A hash of the text, for `QHash` and `QSet`.
+[[nodiscard]] inline std::size_t qHash(BankName const& name, std::size_t seed = 0) noexcept
+{
+  return qHash(name.institution(), seed);
 }
 
 /// The text of the name, never translated.
@@ -55,3 +72,15 @@ ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankName const
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankName const& name);
 
 } // namespace orv::banking
+
+Q_DECLARE_TYPEINFO(orv::banking::BankName, Q_RELOCATABLE_TYPE);
+
+/// A hash of the text, for the standard containers.
+template <>
+struct std::hash<orv::banking::BankName>
+{
+  [[nodiscard]] std::size_t operator()(orv::banking::BankName const& name) const noexcept
+  {
+    return std::hash<QString>()(name.institution());
+  }
+};

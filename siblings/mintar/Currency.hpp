@@ -3,6 +3,7 @@
 #include <mintar/Export.hpp>
 
 #include <QString>
+#include <QTypeInfo>
 
 #include <utility>
 
@@ -33,3 +34,5 @@ private:
 };
 
 } // namespace mintar
+
+Q_DECLARE_TYPEINFO(mintar::Currency, Q_RELOCATABLE_TYPE);

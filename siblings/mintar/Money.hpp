@@ -3,6 +3,7 @@
 #include <mintar/Currency.hpp>
 #include <mintar/Export.hpp>
 
+#include <QTypeInfo>
 #include <QtGlobal>
 
 #include <iosfwd>
@@ -60,6 +61,8 @@ private:
 MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money);
 
 } // namespace mintar
+
+Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
 /// Writes the text that the standard stream gets, as one `QString`.
 MINTAR_EXPORT QDebug operator<<(QDebug debug, mintar::Money const& money);
