@@ -123,10 +123,11 @@ QDebug operator<<(QDebug debug, BankAccountTypes const& type)
 
 QString presentationText(AccountNumberBankType const& account, foundation::LocaleAware localeAware)
 {
+  auto const format = QObject::tr("%1 (%2)");
   auto const kind = localeAware == foundation::LocaleAware::No
                         ? toNonLocalisedText(account.bankAccountType)
                         : presentationText(account.bankAccountType);
-  return QObject::tr("%1 (%2)").arg(accounting::presentationText(account.accountNumber), kind);
+  return format.arg(accounting::presentationText(account.accountNumber), kind);
 }
 
 std::ostream& operator<<(std::ostream& stream, AccountNumberBankType const& account)
