@@ -10,7 +10,6 @@
 #include <ostream>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace orv::banking {
 
@@ -105,14 +104,13 @@ std::ostream& operator<<(std::ostream& stream, Bank const& bank)
 {
   stream << "Bank: (" << bank.name() << "), Account Numbers: (";
   // Accounts are many and kinds are few: the text of each is looked up once.
-  std::vector<std::pair<BankAccountTypes, std::string>> kinds;
+  std::map<BankAccountTypes, std::string> kinds;
   char const* separator = "";
   for (auto const& [number, type] : bank.accounts()) {
     stream << separator << number << "=>";
-    auto kind = std::find_if(kinds.begin(), kinds.end(),
-                             [type = type](auto const& known) { return known.first == type; });
-    if (kind == kinds.end()) {
-      kind = kinds.emplace(kind, type, presentationText(type).toStdString());
+    auto const [kind, isNew] = kinds.try_emplace(type);
+    if (isNew) {
+      kind->second = presentationText(type).toStdString();
     }
     stream << kind->second;
     separator = ", ";
