@@ -41,9 +41,8 @@ void sort(std::vector<AccountNumber>& numbers)
   }
 }
 
-// The account numbers that break a rule, in ascending order: the invalid one and those that several
-// banks hold.
-std::vector<AccountNumber> refusedNumbers(std::map<BankName, Bank> const& banks)
+// The account numbers that several banks hold, in ascending order.
+std::vector<AccountNumber> sharedNumbers(std::map<BankName, Bank> const& banks)
 {
   std::size_t count = 0;
   for (auto const& [name, bank] : banks) {
@@ -58,27 +57,27 @@ std::vector<AccountNumber> refusedNumbers(std::map<BankName, Bank> const& banks)
   }
   sort(numbers);
 
-  std::vector<AccountNumber> refused;
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    if (numbers[i] == AccountNumber::invalid_ || (i > 0 && numbers[i - 1] == numbers[i])) {
-      refused.push_back(numbers[i]);
+  std::vector<AccountNumber> shared;
+  for (std::size_t i = 1; i < numbers.size(); ++i) {
+    if (numbers[i - 1] == numbers[i]) {
+      shared.push_back(numbers[i]);
     }
   }
-  return refused;
+  return shared;
 }
 
 // The smallest account number of the bank that is among these.
 std::optional<AccountNumber> smallestAmong(std::vector<AccountNumber> const& numbers,
                                            Bank const& bank)
 {
-  if (!numbers.empty()) { // seldom, and the accounts need not be walked again
-    for (auto const& [number, type] : bank.accounts()) {
-      if (std::binary_search(numbers.begin(), numbers.end(), number)) {
-        return number;
-      }
-    }
+  if (numbers.empty()) {
+    return std::nullopt; // as nearly always, without another walk of the accounts
   }
-  return std::nullopt;
+  auto const& accounts = bank.accounts();
+  auto const found = std::find_if(accounts.begin(), accounts.end(), [&](auto const& account) {
+    return std::binary_search(numbers.begin(), numbers.end(), account.first);
+  });
+  return found == accounts.end() ? std::nullopt : std::optional(found->first);
 }
 
 // The smallest account number that both banks hold.
@@ -95,30 +94,46 @@ std::optional<AccountNumber> smallestShared(Bank const& lhs, Bank const& rhs)
   return std::nullopt;
 }
 
+// The smallest account number that the bank shares with banks of other names.
+std::optional<AccountNumber> smallestSharedWithOthers(std::map<BankName, Bank> const& banks,
+                                                      Bank const& bank)
+{
+  std::optional<AccountNumber> smallest;
+  for (auto const& [name, other] : banks) {
+    if (name == bank.name()) {
+      continue;
+    }
+    auto const shared = smallestShared(other, bank);
+    if (shared && (!smallest || *shared < *smallest)) {
+      smallest = shared;
+    }
+  }
+  return smallest;
+}
+
 } // namespace
 
 BankMap::BankMap(std::map<BankName, Bank> banks) : banks_(std::move(banks))
 {
-  auto const refused = refusedNumbers(banks_);
+  auto const shared = sharedNumbers(banks_);
   for (auto entry = banks_.cbegin(); entry != banks_.cend(); ++entry) {
     auto const& [name, bank] = *entry;
     if (name != bank.name()) {
       throw BankError(name, QObject::tr("The key name does not match the value name, %1.")
                                 .arg(bank.name().institution()));
     }
-    auto const number = smallestAmong(refused, bank);
-    if (!number) {
-      continue;
-    }
-    if (*number == AccountNumber::invalid_) {
+    // No bank can hold the invalid number today, as Bank refuses it: this keeps the registry's own rule.
+    if (bank.accounts().contains(AccountNumber())) {
       throw BankError(name, QObject::tr("A default account cannot be associated with a bank."));
     }
-    // No earlier bank holds it, or the walk would have ended there.
-    auto const other = holder(*number, std::next(entry));
-    throw BankError(
-        name,
-        QObject::tr("The account '%1' is associated with the bank '%2' and cannot be used again.")
-            .arg(presentationText(*number), other->first.institution()));
+    if (auto const number = smallestAmong(shared, bank)) {
+      // No earlier bank holds it, or the walk would have ended there.
+      auto const other = holder(*number, std::next(entry));
+      throw BankError(
+          name,
+          QObject::tr("The account '%1' is associated with the bank '%2' and cannot be used again.")
+              .arg(presentationText(*number), other->first.institution()));
+    }
   }
 }
 
@@ -261,21 +276,11 @@ void BankMap::update(Bank bank)
   if (entry->second.isClosed()) {
     throw BankError(name, QObject::tr("Cannot update a bank that is closed."));
   }
-  std::optional<AccountNumber> conflict;
-  for (auto other = banks_.cbegin(); other != banks_.cend(); ++other) {
-    if (other == entry) {
-      continue;
-    }
-    auto const shared = smallestShared(other->second, bank);
-    if (shared && (!conflict || *shared < *conflict)) {
-      conflict = shared;
-    }
-  }
-  if (conflict) {
+  if (auto const shared = smallestSharedWithOthers(banks_, bank)) {
+    auto const other = holder(*shared, banks_.begin());
     throw BankError(name, QObject::tr("Cannot update the account number, %1, as the bank '%2' is "
                                       "already associated with that number.")
-                              .arg(presentationText(*conflict),
-                                   holder(*conflict, banks_.begin())->first.institution()));
+                              .arg(presentationText(*shared), other->first.institution()));
   }
   entry->second = std::move(bank);
 }
