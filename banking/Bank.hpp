@@ -18,7 +18,7 @@ namespace orv::banking {
 /// default-constructed bank has no name. A moved-from bank is for assigning to and destroying only.
 ///
 /// Each change is logged before it is checked, so a refused change is logged too; see
-/// [Log messages](log-messages.md). A change that throws leaves the bank unchanged, also if memory
+/// [Log messages](docs/log-messages.md). A change that throws leaves the bank unchanged, also if memory
 /// runs out.
 ///
 /// Several threads may read the same bank. While one thread changes it, no other may use it.

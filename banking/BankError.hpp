@@ -18,7 +18,7 @@ class BankName;
 /// installed when the error is created, see `QCoreApplication::installTranslator()`, or English.
 /// Dates are in the form of `QLocale()`.
 ///
-/// The page [Refusals](refusals.md) lists every rule with its text.
+/// The page [Refusals](docs/refusals.md) lists every rule with its text.
 ///
 /// \snippet snippets.cpp BankError
 class ORV_BANKING_EXPORT BankError : public foundation::Error

@@ -47,8 +47,8 @@ public:
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
   /// \throws BankError if a bank holds the invalid number, which no bank accepts by itself
-  /// \throws BankError if a bank shares a number with later ones; the error tells the smallest such
-  ///         number and the first of these banks
+  /// \throws BankError if later banks hold one of its numbers too; the error tells the smallest such
+  ///         number and the next bank that holds it
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
@@ -56,8 +56,9 @@ public:
   /// An iterator over the banks, which are pairs of a name and a bank.
   using const_iterator = std::map<BankName, Bank>::const_iterator;
 
-  /// Returns an iterator to the first bank in name order, for `for (auto const& [name, bank] :
-  /// banks)`.
+  /// Returns an iterator to the first bank in name order.
+  ///
+  /// With `end` it serves loops over all banks: `for (auto const& [name, bank] : banks)`.
   ///
   /// An iterator is valid until its bank is removed or renamed, or the registry is assigned to,
   /// moved from or destroyed. Other changes of the bank show through it, `update` included.
