@@ -95,9 +95,11 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankName const& name);
 
 Q_DECLARE_TYPEINFO(orv::banking::BankName, Q_RELOCATABLE_TYPE);
 
+namespace std {
+
 /// Hashes bank names for `std::unordered_map` and `std::unordered_set`.
 template <>
-struct std::hash<orv::banking::BankName>
+struct hash<orv::banking::BankName>
 {
   /// Returns a hash of the name.
   [[nodiscard]] std::size_t operator()(orv::banking::BankName const& name) const noexcept
@@ -105,3 +107,5 @@ struct std::hash<orv::banking::BankName>
     return std::hash<QString>()(name.institution());
   }
 };
+
+} // namespace std
