@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Dates as text.
+
 #include <foundation/Export.hpp>
 
 #include <iosfwd>

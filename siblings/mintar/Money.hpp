@@ -69,4 +69,5 @@ MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money)
 Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
 /// Writes the text of the standard stream to a debug stream, as one `QString`.
+/// \relatesalso mintar::Money
 MINTAR_EXPORT QDebug operator<<(QDebug debug, mintar::Money const& money);
