@@ -69,7 +69,7 @@ inline std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs
 /// \relatesalso BankName
 inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 {
-  return (lhs <=> rhs) < 0; // written out for callers that name this operator
+  return std::is_lt(lhs <=> rhs); // written out for callers that name this operator
 }
 
 /// Returns a hash of the name, for `QHash` and `QSet`.
