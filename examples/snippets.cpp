@@ -43,14 +43,17 @@ void bankName()
 void bankAccountTypes()
 {
   //! [BankAccountTypes]
-  auto kind = toBankAccountTypes("Credit Card");
+  auto const kind = toBankAccountTypes("Credit Card");
   qInfo() << isAssetAccount(kind) << (toAccountTypes(kind) == AccountTypes::Liability);
   // prints: false true
-  qInfo() << presentationText(kind) << toNonLocalisedText(kind);
-  // prints: "Credit Card" "Credit Card"
+  qInfo() << presentationText(kind); // in the user's language
+  // prints: "Credit Card"
+  qInfo() << toNonLocalisedText(kind); // the same in every language
+  // prints: "Credit Card"
 
   try {
-    kind = toBankAccountTypes("credit card"); // letter case matters
+    auto const other = toBankAccountTypes("credit card"); // letter case matters
+    qInfo() << toNonLocalisedText(other);
   } catch (std::logic_error const&) {
     qInfo() << "There is no such kind.";
     // prints: There is no such kind.
