@@ -14,12 +14,15 @@ namespace orv::banking {
 
 /// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
-/// A bank has a name, no invalid account number and no account of the kind `Unknown`. A
+/// A bank has a name, no invalid account number and no account of the kind `Unknown`. Only a
 /// default-constructed bank has no name. A moved-from bank is for assigning to and destroying only.
 ///
-/// Each change is logged before it is checked, so a refused change is logged too; see
-/// [Log messages](docs/log-messages.md). A change that throws leaves the bank unchanged, also if memory
-/// runs out.
+/// A change that would break a rule throws `BankError`, which names this bank. A change that throws
+/// leaves the bank unchanged, also if memory runs out.
+///
+/// Each change is logged before it is checked, so a refused change is logged too. The messages are
+/// info messages of Qt's default category; see [Log messages](docs/log-messages.md). A message
+/// handler must not throw.
 ///
 /// Several threads may read the same bank. While one thread changes it, no other may use it.
 ///
@@ -45,7 +48,7 @@ public:
 
   /// Returns the account numbers with their kinds, the smallest number first.
   ///
-  /// The reference is valid as long as this bank exists, and follows changes of it.
+  /// The reference is valid as long as this bank exists. Later changes show through it.
   [[nodiscard]] std::map<accounting::AccountNumber, BankAccountTypes> const&
   accounts() const noexcept
   {
@@ -57,7 +60,7 @@ public:
 
   /// Returns the name.
   ///
-  /// The reference is valid as long as this bank exists, and follows changes of it.
+  /// The reference is valid as long as this bank exists. Later changes show through it.
   [[nodiscard]] BankName const& name() const noexcept { return name_; }
 
   /// Closes the bank.

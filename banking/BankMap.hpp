@@ -47,8 +47,8 @@ public:
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
   /// \throws BankError if a bank holds the invalid number, which no bank accepts by itself
-  /// \throws BankError if later banks hold one of its numbers too; the error tells the smallest such
-  ///         number and the next bank that holds it
+  /// \throws BankError if later banks hold one of its numbers too; the error tells the smallest
+  ///         such number and the next bank that holds it
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);

@@ -41,7 +41,7 @@ public:
 
   /// Returns the text, exactly as it was given.
   ///
-  /// The reference is valid as long as this name exists, and follows assignments to it.
+  /// The reference is valid as long as this name exists. Later assignments show through it.
   [[nodiscard]] QString const& institution() const noexcept { return institution_; }
 
   /// Returns whether this is the empty name. A name created from a text is not empty.

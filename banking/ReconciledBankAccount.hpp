@@ -53,17 +53,17 @@ public:
 
   /// Returns the bank, the number and the kind of the account.
   ///
-  /// The reference is valid as long as this account exists, and follows changes of it.
+  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] BankAccount const& bankAccount() const noexcept { return bankAccount_; }
 
   /// Returns the balance of the last reconciliation, or else the balance given at construction.
   ///
-  /// The reference is valid as long as this account exists, and follows changes of it.
+  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] mintar::Money const& balance() const noexcept { return balance_; }
 
   /// Returns the date of the last reconciliation, or nothing.
   ///
-  /// The reference is valid as long as this account exists, and follows changes of it.
+  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] std::optional<QDate> const& reconciledOn() const noexcept { return reconciledOn_; }
 
   /// Records the balance that the bank reported on a date.
