@@ -13,10 +13,13 @@ class BankName;
 
 /// The error that reports a broken banking rule.
 ///
-/// A call that throws it has changed nothing. `what()` names the bank and the rule, in UTF-8;
-/// nothing else can be read from the error. The language is that of the translators that are
-/// installed when the error is created, see `QCoreApplication::installTranslator()`, or English.
-/// Dates are in the form of `QLocale()`.
+/// A call that throws it has changed nothing. `what()` names the bank and the rule, in UTF-8. It is
+/// all that can be read from the error.
+///
+/// The text is in the language of the translator that is installed when the error is created, or in
+/// English. French and German come with the library, in `share/orv-banking/translations`: load one
+/// with `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, then install it with
+/// `QCoreApplication::installTranslator()`. Dates in the text are in the form of `QLocale()`.
 ///
 /// The page [Refusals](docs/refusals.md) lists every rule with its text.
 ///

@@ -16,8 +16,8 @@ namespace orv::banking {
 /// To reconcile an account is to record the balance that the bank reported on a date. A
 /// reconciliation never moves back in time.
 ///
-/// The account does not know the registry of banks. If its bank is renamed there, the program
-/// replaces the account; the main page shows how.
+/// The account does not know the registry of banks. If its bank is renamed there, replace the
+/// account by one with the new name and the same balance and date; the main page shows how.
 ///
 /// Several threads may read the same account. While one thread changes it, no other may use it.
 ///
@@ -25,7 +25,8 @@ namespace orv::banking {
 class ORV_BANKING_EXPORT ReconciledBankAccount
 {
 public:
-  /// Creates an account without a bank, number, kind and amount that has never been reconciled.
+  /// Creates an account without a bank, a number, a kind or an amount. It has never been
+  /// reconciled.
   ReconciledBankAccount() = default;
 
   /// Creates an account that was last reconciled as given. Nothing is checked.
@@ -34,7 +35,7 @@ public:
   ReconciledBankAccount(BankAccount bankAccount, mintar::Money balance,
                         std::optional<QDate> reconciledOn);
 
-  /// Creates an account with the balance zero in this currency that has never been reconciled.
+  /// Creates an account with the balance zero in this currency. It has never been reconciled.
   ReconciledBankAccount(BankAccount bankAccount, mintar::Currency const& currency);
 
   /// Copies the account, its balance and its date.
