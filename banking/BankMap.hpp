@@ -17,11 +17,12 @@ namespace orv::banking {
 ///
 /// Each bank is registered under its own name, no bank holds the invalid account number, and no two
 /// banks hold the same account number. A change that would break one of these rules throws
-/// `BankError`. A change that throws leaves the registry unchanged, also if memory runs out.
+/// `BankError`, which names the bank that the call is about. A change that throws leaves the
+/// registry unchanged, also if memory runs out.
 ///
 /// `open`, `close`, and adding and removing an account number are passed on to the bank, which logs
-/// them and applies its own rules. What the registry itself refuses is not logged, and no other
-/// change is.
+/// them and applies its own rules. Nothing else is logged, and no change that the registry itself
+/// refuses.
 ///
 /// The registry does not check that a bank has a name: `add(Bank())` registers a bank under the
 /// empty name, and so does adding the same bank with `std::move` twice. A bank passed with
@@ -42,8 +43,8 @@ public:
 
   /// Creates a registry of these banks, closed ones included.
   ///
-  /// This is the way to fill a registry: adding the banks one by one takes B times as long. The
-  /// banks are checked in name order, each in the order of the lines below.
+  /// Fill a registry this way: adding its banks one by one takes O(B) times as long. The banks are
+  /// checked in name order, each in the order of the lines below.
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
   /// \throws BankError if a bank holds the invalid number, which no bank accepts by itself

@@ -72,7 +72,8 @@ public:
   /// The first reconciliation accepts any date, a later one the same date or a later one. An
   /// invalid date is earlier than every valid date.
   ///
-  /// \throws BankError if `date` is earlier than the last date; the account is unchanged
+  /// \throws BankError if `date` is earlier than the last date; the error tells the last date, then
+  ///         `date`, and the account is unchanged
   /// \throws std::invalid_argument if the account has a currency and `balance` has another one or
   ///         none; the account is unchanged
   void reconcile(QDate const& date, mintar::Money const& balance);
