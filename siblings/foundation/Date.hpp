@@ -9,8 +9,8 @@ class QString;
 
 namespace orv::foundation {
 
-/// The date as the user's locale (`QLocale()`) writes it in its short form; empty for an invalid
-/// date.
+/// The date as the user's locale (`QLocale()`) writes it in its short form, in the C locale as
+/// ISO 8601 does; empty for an invalid date.
 ORV_FOUNDATION_EXPORT QString presentationText(QDate const& date);
 
 } // namespace orv::foundation
