@@ -14,11 +14,12 @@ namespace orv::banking {
 
 /// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
-/// A bank has a name, no invalid account number and no account of the kind `Unknown`. Only a
+/// A bank has a name, no invalid account number and no account of the kind `Unknown`. A
 /// default-constructed bank has no name. A moved-from bank is for assigning to and destroying only.
 ///
-/// A change that would break a rule throws `BankError`, which names this bank. A change that throws
-/// leaves the bank unchanged, also if memory runs out.
+/// A change that would break a rule throws `BankError`, which names this bank; the page
+/// [Refusals](docs/refusals.md) has the words. A change that throws leaves the bank unchanged, also if
+/// memory runs out.
 ///
 /// Each change is logged before it is checked, so a refused change is logged too. The messages are
 /// info messages of Qt's default category; see [Log messages](docs/log-messages.md). A message

@@ -13,7 +13,7 @@ class BankName;
 
 /// The error that reports a broken banking rule.
 ///
-/// A call that throws it has changed nothing. `what()` names the bank and the rule, in UTF-8. It is
+/// A call that throws it has changed nothing, apart from arguments passed with `std::move`. `what()` names the bank and the rule, in UTF-8. It is
 /// all that can be read from the error.
 ///
 /// The text is in the language of the translator that is installed when the error is created, or in

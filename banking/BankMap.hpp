@@ -21,8 +21,10 @@ namespace orv::banking {
 /// registry unchanged, also if memory runs out.
 ///
 /// `open`, `close`, and adding and removing an account number are passed on to the bank, which logs
-/// them and applies its own rules. Nothing else is logged, and no change that the registry itself
-/// refuses.
+/// them and applies its own rules. Nothing else is logged. The page
+/// [Refusals](docs/refusals.md) has the words of each error.
+///
+/// Names and numbers that are passed may be references into the registry.
 ///
 /// The registry does not check that a bank has a name: `add(Bank())` registers a bank under the
 /// empty name, and so does adding the same bank with `std::move` twice. A bank passed with
@@ -43,13 +45,15 @@ public:
 
   /// Creates a registry of these banks, closed ones included.
   ///
-  /// Fill a registry this way: adding its banks one by one takes O(B) times as long. The banks are
-  /// checked in name order, each in the order of the lines below.
+  /// Fill a registry this way: adding banks one by one asks all earlier banks for each, so its
+  /// time grows with the square of B. The banks are checked in the order of their keys, each in the
+  /// order of the lines below.
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
-  /// \throws BankError if a bank holds the invalid number, which no bank accepts by itself
-  /// \throws BankError if later banks hold one of its numbers too; the error tells the smallest
-  ///         such number and the next bank that holds it
+  /// \throws BankError if a bank holds the invalid number; this cannot happen as long as no bank
+  ///         accepts it
+  /// \throws BankError if later banks hold one of its numbers too; the error names this bank, and
+  ///         tells the smallest such number and the key of the next bank that holds it
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
@@ -65,7 +69,8 @@ public:
   /// moved from or destroyed. Other changes of the bank show through it, `update` included.
   [[nodiscard]] const_iterator begin() const noexcept { return banks_.begin(); }
 
-  /// Returns the iterator behind the last bank.
+  /// Returns the iterator behind the last bank. It is valid until the registry is assigned to,
+  /// moved from or destroyed.
   [[nodiscard]] const_iterator end() const noexcept { return banks_.end(); }
 
   /// Returns whether a bank of this name is registered. Letter case matters.
@@ -153,8 +158,7 @@ public:
 
   /// Renames a bank. Its accounts stay the same.
   ///
-  /// Either name may be a reference into the registry. A `ReconciledBankAccount` keeps the name
-  /// that it was created with.
+  /// A `ReconciledBankAccount` keeps the name that it was created with.
   ///
   /// \throws BankError if there is no bank of the name `from`
   /// \throws BankError if there is a bank of the name `to`

@@ -70,7 +70,7 @@ public:
   /// Records the balance that the bank reported on a date.
   ///
   /// The first reconciliation accepts any date, a later one the same date or a later one. An
-  /// invalid date is earlier than every valid date.
+  /// invalid date is earlier than every valid date. The date is checked before the currency.
   ///
   /// \throws BankError if `date` is earlier than the last date; the error tells the last date, then
   ///         `date`, and the account is unchanged
