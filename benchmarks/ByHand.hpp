@@ -54,7 +54,8 @@ struct ByHand
   bool operator==(ByHand const& other) const
   {
     return std::ranges::equal(banks, other.banks, [](auto const& lhs, auto const& rhs) {
-      return lhs.first == rhs.first && lhs.second.isClosed() == rhs.second.isClosed() &&
+      return lhs.first == rhs.first && lhs.second.name() == rhs.second.name() &&
+             lhs.second.isClosed() == rhs.second.isClosed() &&
              lhs.second.accounts() == rhs.second.accounts();
     });
   }
