@@ -1,11 +1,10 @@
-#include "model/Driver.hpp"
+#include "model/Steps.hpp"
+#include "support/ScopedTranslator.hpp"
 
-#include <cstddef>
-#include <cstdint>
-
-// Any sequence of operations does what it does in the model; a difference ends the program.
+// Any sequence of changes does what it does in the model; a difference ends the program.
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-  holdAgainstModel({data, size});
+  ScopedTranslator const translator(&placeholdersOf);
+  takeSteps({data, size});
   return 0;
 }

@@ -1,22 +1,11 @@
 #pragma once
 
-#include "support/Printing.hpp"
 #include "support/ScopedTranslator.hpp"
-#include "support/Texts.hpp"
+#include "support/Testing.hpp"
 
-#include <banking/BankError.hpp>
-
-#include <QString>
-
-#include <exception>
-#include <functional>
-#include <gmock/gmock.h>
-#include <typeinfo>
-
-/// Expects the call to throw an error of exactly this type, not of one derived from it, with exactly
-/// this text.
+/// Expects the call to throw an error of exactly this type, not of one derived from it, with this text.
 template <typename Error, typename Call>
-void expectThrows(QString const& text, Call&& call)
+void expectThrows(QString const& text, Call const& call)
 {
   try {
     call();
@@ -32,7 +21,7 @@ template <typename Subject>
 struct Refusal
 {
   std::function<void(Subject&)> call;
-  QString bank;
+  BankName bank;
   QString message;
 };
 
@@ -43,10 +32,11 @@ void expectRefusals(Subject const& subject, Refusals const& refusals)
   for (Refusal<Subject> const& refusal : refusals) {
     auto changed = subject;
     auto const expectText = [&](QString const& mark) {
-      expectThrows<orv::banking::BankError>(bankErrorText(refusal.bank, refusal.message, mark),
-                                            [&] { refusal.call(changed); });
+      expectThrows<BankError>(mark + "There is an issue with the bank '" +
+                                  refusal.bank.institution() + "'. " + mark + refusal.message,
+                              [&] { refusal.call(changed); });
     };
-    expectText({});
+    expectText("");
     ScopedTranslator const translator;
     expectText("~");
     EXPECT_EQ(streamed(changed), streamed(subject)) << refusal.message.toStdString();
