@@ -7,13 +7,14 @@ namespace {
 
 BankName const none("None");
 
-Bank bank(BankName const& name, std::initializer_list<unsigned int> numbers, bool isClosed = false)
+Bank bank(BankName const& name, auto... numbers)
 {
-  std::map<AccountNumber, BankAccountTypes> accounts;
-  for (auto const number : numbers) {
-    accounts.emplace(number, Loan);
-  }
-  return Bank(name, accounts, isClosed);
+  return Bank(name, {{AccountNumber(numbers), Loan}...}, false);
+}
+
+Bank closed(BankName const& name, auto... numbers)
+{
+  return Bank(name, {{AccountNumber(numbers), Loan}...}, true);
 }
 
 BankMap banks(Bank const& underElm, Bank const& underOak, Bank const& underPine)
@@ -27,14 +28,11 @@ BankMap banks(Bank const& underElm, Bank const& underOak, Bank const& underPine)
 TEST(BankMap, RefusesToBreakItsRules)
 {
   Refusal<BankMap> const refusals[] = {
-      {[](auto&) { banks(bank(oak, {9}), bank(oak, {9}), {}); }, elm,
+      {[](auto&) { banks(bank(oak, 9), bank(oak, 9), {}); }, elm,
        "The key name does not match the value name, Oak %1."},
-      {[](auto&) {
-         banks(bank(elm, {9, 16909060}), bank(pine, {16909060}), bank(pine, {9}));
-       },
-       elm, "The account '9' is associated with the bank 'Pine' and cannot be used again."},
-      {[](auto&) { banks(bank(elm, {16909060}), bank(oak, {16909060}), bank(pine, {16909060})); },
-       elm,
+      {[](auto&) { banks(bank(elm, 9, 16909060), bank(pine, 16909060), bank(pine, 9)); }, elm,
+       "The account '9' is associated with the bank 'Pine' and cannot be used again."},
+      {[](auto&) { banks(bank(elm, 16909060), bank(oak, 16909060), bank(pine, 16909060)); }, elm,
        "The account '16909060' is associated with the bank 'Oak %1' and cannot be used again."},
       {[](auto& map) { return map.bank(none); }, none, "Failed to locate a bank by that name."},
       {[](auto& map) { map.close(none); }, none, "Cannot close a bank that does not exist."},
@@ -46,13 +44,10 @@ TEST(BankMap, RefusesToBreakItsRules)
        "that number."},
       {[](auto& map) { map.remove(none, some); }, none,
        "Cannot remove the account number, 16909060, as the bank that does not exist."},
-      {[](auto& map) { map.add(bank(elm, {3}, true)); }, elm,
+      {[](auto& map) { map.add(closed(elm, 3)); }, elm,
        "Cannot add a bank that is already closed."},
-      {[](auto& map) { map.add(bank(elm, {3})); }, elm, "Cannot add a bank that already exists."},
-      {[](auto& map) {
-         map.add(bank(none, {3, 16909060, 168496141}));
-       },
-       none,
+      {[](auto& map) { map.add(bank(elm, 3)); }, elm, "Cannot add a bank that already exists."},
+      {[](auto& map) { map.add(bank(none, 3, 16909060, 168496141)); }, none,
        "The account '16909060' is already associated with the bank 'Oak %1' and cannot be added "
        "again."},
       {[](auto& map) { map.remove(none); }, none, "Cannot remove a bank that does not exist."},
@@ -62,26 +57,20 @@ TEST(BankMap, RefusesToBreakItsRules)
        "Cannot rename to 'Oak %1' as it already exists."},
       {[](auto& map) { map.rename(pine, {}); }, pine, "Cannot rename to an empty bank name."},
       {[](auto& map) { map.rename(pine, none); }, pine, "Cannot rename a bank when it is closed."},
-      {[](auto& map) { map.update(bank(none, {3}, true)); }, none,
+      {[](auto& map) { map.update(closed(none)); }, none,
        "Cannot update a bank that does not exist."},
-      {[](auto& map) { map.update(bank(pine, {9}, true)); }, pine,
-       "Cannot update to a closed bank."},
-      {[](auto& map) { map.update(bank(pine, {9})); }, pine,
-       "Cannot update a bank that is closed."},
-      {[](auto& map) {
-         map.update(bank(elm, {3, 16909060}));
-       },
-       elm,
+      {[](auto& map) { map.update(closed(pine, 9)); }, pine, "Cannot update to a closed bank."},
+      {[](auto& map) { map.update(bank(pine, 9)); }, pine, "Cannot update a bank that is closed."},
+      {[](auto& map) { map.update(bank(elm, 3, 16909060)); }, elm,
        "Cannot update the account number, 3, as the bank 'Pine' is already associated with that "
        "number."},
   };
-  expectRefusals(banks(bank(elm, {9}), bank(oak, {16909060, 168496141}), bank(pine, {3}, true)),
-                 refusals);
+  expectRefusals(banks(bank(elm, 9), bank(oak, 16909060, 168496141), closed(pine, 3)), refusals);
 }
 
 TEST(BankMap, TellsItsBanksInNameOrder)
 {
-  BankMap const map({{oak, bank(oak, {})}, {elm, bank(elm, {3})}});
+  BankMap const map({{oak, bank(oak)}, {elm, bank(elm, 3)}});
   EXPECT_THAT(map.names(), testing::ElementsAre(elm, oak));
   EXPECT_EQ(streamed(map),
             "Bank Map (Financial Institution Name: (Elm %2)=>" + streamed(map.bank(elm)) +

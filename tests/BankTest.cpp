@@ -4,6 +4,9 @@
 std::map<AccountNumber, BankAccountTypes> const invalid{{AccountNumber(), Loan}, {some, Unknown}};
 std::map<AccountNumber, BankAccountTypes> const unknown{{AccountNumber(1), Loan}, {some, Unknown}};
 
+std::map<AccountNumber, BankAccountTypes> const loan{{some, Loan}};
+std::map<AccountNumber, BankAccountTypes> const goal{{some, Goal}};
+
 // Where two rules are broken, the first is told.
 TEST(Bank, RefusesToBreakItsRules)
 {
@@ -52,4 +55,15 @@ TEST(Bank, WritesItsAccountsInOrderAndStaysInBoolalpha)
   std::ostringstream stream;
   stream << bank << false;
   EXPECT_THAT(stream.str(), testing::EndsWith(")false"));
+}
+
+TEST(Bank, EqualsOneOfTheSameNameAccountsAndState)
+{
+  Bank const bank(elm, loan, false);
+  EXPECT_EQ(bank, Bank(elm, loan, false));
+  for (auto const& other :
+       {Bank(elm, goal, false), Bank(oak, loan, false), Bank(elm, loan, true)}) {
+    EXPECT_FALSE(bank == other);
+    EXPECT_FALSE(other == bank);
+  }
 }

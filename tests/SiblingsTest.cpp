@@ -35,6 +35,8 @@ TEST(Date, IsShownInIsoFormOrAsTheLocaleDoes)
 // Qt decides the rest: the script of the digits, groups, marks, and where sign and symbol stand.
 TEST(Money, IsShownExactlyInItsCurrency)
 {
+  constexpr auto min = std::numeric_limits<qint64>::min();
+  constexpr auto max = std::numeric_limits<qint64>::max();
   std::tuple<char const*, char const*, qint64, QString, QString> const amounts[] = {
       {"en_CA", "CAD", 123456, "1234.56", "$"},
       {"en_CA", "USD", 5, "0.05", "USD"},
@@ -42,10 +44,9 @@ TEST(Money, IsShownExactlyInItsCurrency)
       {"en_US", "JPY", 1234, "1234", "JPY"},
       {"de_DE", "KWD", -1234567, "-1234.567", "KWD"},
       {"ar_EG", "CLF", 12034, "1.2034", "CLF"},
-      {"C", "CAD", std::numeric_limits<qint64>::min(), "-92233720368547758.08", "CAD"},
-      {"C", "CAD", std::numeric_limits<qint64>::max(), "92233720368547758.07", "CAD"},
-      {"C", "", 0, "", ""},
-  };
+      {"C", "CAD", min, "-92233720368547758.08", "CAD"},
+      {"C", "CAD", max, "92233720368547758.07", "CAD"},
+      {"C", "", 0, "", ""}};
   for (auto const& [locale, currency, minorUnits, number, symbol] : amounts) {
     QLocale::setDefault(QLocale(locale));
     Money const money{Currency(currency), minorUnits};

@@ -4,8 +4,8 @@
 #include "support/Testing.hpp"
 
 /// Expects the call to throw an error of exactly this type, not of one derived from it, with this text.
-template <typename Error, typename Call>
-void expectThrows(QString const& text, Call const& call)
+template <typename Error>
+void expectThrows(QString const& text, auto const& call)
 {
   try {
     call();
@@ -26,8 +26,8 @@ struct Refusal
 };
 
 /// Expects each refusal in plain and in translated text, and that it leaves the subject as it was.
-template <typename Subject, typename Refusals>
-void expectRefusals(Subject const& subject, Refusals const& refusals)
+template <typename Subject>
+void expectRefusals(Subject const& subject, auto const& refusals)
 {
   for (Refusal<Subject> const& refusal : refusals) {
     auto changed = subject;

@@ -34,8 +34,7 @@ inline void PrintTo(QString const& text, std::ostream* stream)
 }
 
 /// What the value writes to a standard stream.
-template <typename T>
-QString streamed(T const& value)
+QString streamed(auto const& value)
 {
   std::ostringstream stream;
   stream << value;
@@ -43,8 +42,7 @@ QString streamed(T const& value)
 }
 
 /// What the values write to a debug stream in its default mode.
-template <typename... Ts>
-QString debugged(Ts const&... values)
+QString debugged(auto const&... values)
 {
   QString text;
   (QDebug(&text) << ... << values);
@@ -52,8 +50,7 @@ QString debugged(Ts const&... values)
 }
 
 /// Expects the text on a standard stream and, as one QString, on a debug stream.
-template <typename T>
-void expectWritten(T const& value, QString const& text)
+void expectWritten(auto const& value, QString const& text)
 {
   EXPECT_EQ(streamed(value), text);
   EXPECT_EQ(debugged(value, value), debugged(text, text));
