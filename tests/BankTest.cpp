@@ -3,7 +3,6 @@
 
 std::map<AccountNumber, BankAccountTypes> const invalid{{AccountNumber(), Loan}, {some, Unknown}};
 std::map<AccountNumber, BankAccountTypes> const unknown{{AccountNumber(1), Loan}, {some, Unknown}};
-
 std::map<AccountNumber, BankAccountTypes> const loan{{some, Loan}};
 std::map<AccountNumber, BankAccountTypes> const goal{{some, Goal}};
 
@@ -11,8 +10,7 @@ std::map<AccountNumber, BankAccountTypes> const goal{{some, Goal}};
 TEST(Bank, RefusesToBreakItsRules)
 {
   Refusal<Bank> const refusals[] = {
-      {[](auto&) { Bank({}, invalid, true); },
-       {},
+      {[](auto&) { Bank({}, invalid, true); }, BankName(),
        "The name of a financial institution cannot be empty."},
       {[](auto&) { Bank(elm, invalid, true); }, elm,
        "The bank account number of a financial institution cannot be invalid."},

@@ -73,14 +73,10 @@ struct Books
   std::map<BankName, Bank> clashingBanks{{elm, map.bank(elm)}, {pine, clashing}};
 };
 
-struct Operation
-{
-  char const* name;
-  long allocations;
-  std::function<void(Books&)> call;
-};
+using Operation = std::function<void(Books&)>;
 
-Operation const operations[] = {
+// With the number of allocations.
+std::tuple<char const*, long, Operation> const operations[] = {
     {"text of a number", 1, [](auto&) { return presentationText(some); }},
     {"find, its copy's node", 1, [](auto& books) { return books.map.find(some); }},
     {"find nothing", 0, [](auto& books) { return books.map.find(other); }},
@@ -123,7 +119,7 @@ QString outcome(Operation const& operation, Memory& available)
   QString refusal;
   memory = &available;
   try {
-    operation.call(books);
+    operation(books);
     memory = nullptr;
   } catch (std::exception const& error) {
     memory = nullptr;
@@ -141,12 +137,12 @@ TEST(Memory, IsTakenForWhatIsGivenAndMayBeFull)
 {
   qInstallMessageHandler(&keepLastMessage);
   Memory all{1000, false};
-  auto const unchanged = outcome({"nothing", 0, [](auto&) { throw std::bad_alloc(); }}, all);
-  for (auto const& operation : operations) {
-    SCOPED_TRACE(operation.name);
+  auto const unchanged = outcome([](auto&) { throw std::bad_alloc(); }, all);
+  for (auto const& [name, allocations, operation] : operations) {
+    SCOPED_TRACE(name);
     all.made = 0;
     auto const expected = outcome(operation, all);
-    EXPECT_TRUE(all.made == operation.allocations || operation.allocations == any) << all.made;
+    EXPECT_TRUE(all.made == allocations || allocations == any) << all.made;
     for (long room = 0; room < 2 * all.made; ++room) {
       auto const liveBefore = live;
       Memory some{room / 2, room % 2 == 0};

@@ -5,7 +5,6 @@
 #include <banking/BankError.hpp>
 #include <banking/BankMap.hpp>
 
-#include <functional>
 #include <stdexcept>
 
 using namespace orv::banking;
@@ -19,29 +18,19 @@ using Accounts = std::map<AccountNumber, BankAccountTypes>;
 char const* const names[] = {"A", "a", "A ", "%1 %2", "\uFF21", "\U0001F3E6"};
 unsigned int const numbers[] = {1, 2, 3, 257, 65537, 16777217, 4294967295U, 0};
 
-// Draws what changes take; zeros once all bytes are read.
-struct Bytes
+BankName drawName(Draw const& draw)
 {
-  std::span<std::uint8_t const> rest;
+  return BankName(names[draw(6)]);
+}
 
-  unsigned int next(unsigned int bound)
-  {
-    auto const byte = rest.empty() ? 0U : rest.front();
-    rest = rest.subspan(rest.empty() ? 0 : 1);
-    return byte % bound;
+Bank drawBank(Draw const& draw, BankName const& name)
+{
+  Accounts accounts;
+  for (auto count = draw(4); count > 0; --count) {
+    accounts.emplace(numbers[draw(7)], static_cast<BankAccountTypes>(1 + draw(5)));
   }
-
-  BankName name() { return BankName(names[next(6)]); }
-
-  Bank bank(BankName const& name)
-  {
-    Accounts accounts;
-    for (auto count = next(4); count > 0; --count) {
-      accounts.emplace(numbers[next(7)], static_cast<BankAccountTypes>(1 + next(5)));
-    }
-    return Bank(name, accounts, next(4) == 0);
-  }
-};
+  return Bank(name, accounts, draw(4) == 0);
+}
 
 // The first bank but this one that holds the number, or nothing.
 QString holder(AccountNumber const& number, Banks const& banks, BankName const& except)
@@ -97,12 +86,12 @@ void make(std::function<void()> const& change, QString const& refusal, BankMap& 
   banks = expected;
 }
 
-void construct(Bytes& bytes, BankMap& map, Banks& banks)
+void construct(Draw const& draw, BankMap& map, Banks& banks)
 {
   Banks next;
-  for (auto count = bytes.next(6); count > 0; --count) {
-    auto const bank = bytes.bank(bytes.name());
-    next[bytes.next(16) > 0 ? bank.name() : bytes.name()] = bank;
+  for (auto count = draw(6); count > 0; --count) {
+    auto const bank = drawBank(draw, drawName(draw));
+    next[draw(16) > 0 ? bank.name() : drawName(draw)] = bank;
   }
   QString refusal;
   for (auto const& [key, bank] : next) {
@@ -113,24 +102,13 @@ void construct(Bytes& bytes, BankMap& map, Banks& banks)
   make([&] { map = BankMap(next); }, refusal, map, banks, next);
 }
 
-// A change of one bank: the start of its refusal, or nothing; whether it is logged; what the bank is then.
-struct Change
+void changeBank(Draw const& draw, BankMap& map, Banks& banks)
 {
-  std::function<void()> make;
-  QString refusal;
-  bool isLogged;
-  BankName name;
-  Accounts accounts;
-  bool isClosed;
-};
-
-void changeBank(Bytes& bytes, BankMap& map, Banks& banks)
-{
-  auto const name = bytes.name();
-  auto const newName = bytes.next(8) > 0 ? bytes.name() : BankName();
-  AccountNumber const number(numbers[bytes.next(8)]);
-  auto const kind = static_cast<BankAccountTypes>(bytes.next(6));
-  auto const bank = bytes.bank(name);
+  auto const name = drawName(draw);
+  auto const newName = draw(8) > 0 ? drawName(draw) : BankName();
+  AccountNumber const number(numbers[draw(8)]);
+  auto const kind = static_cast<BankAccountTypes>(draw(6));
+  auto const bank = drawBank(draw, name);
 
   auto const hasBank = banks.contains(name);
   auto const stored = hasBank ? banks[name] : Bank();
@@ -150,7 +128,8 @@ void changeBank(Bytes& bytes, BankMap& map, Banks& banks)
   }
   auto const updateRefusal = isOpen && !bank.isClosed() ? clash(bank, banks) : no;
 
-  Change const changes[] = {
+  // The change, the start of its refusal or nothing, whether it is logged, and what the bank then is.
+  std::tuple<std::function<void()>, QString, bool, BankName, Accounts, bool> const changes[] = {
       {[&] { map.close(name); }, isOpen ? "" : no, hasBank, name, held, true},
       {[&] { map.open(name); }, hasBank && !isOpen ? "" : no, hasBank, name, held, false},
       {[&] { map.add(name, number, kind); }, isGood ? "" : no, isAsked, name, with, !isOpen},
@@ -161,14 +140,14 @@ void changeBank(Bytes& bytes, BankMap& map, Banks& banks)
       {[&] { map.add(bank); }, addRefusal, false, name, bank.accounts(), false},
       {[&] { map.update(bank); }, updateRefusal, false, name, bank.accounts(), false},
   };
-  auto const& change = changes[bytes.next(8)];
+  auto const& [change, refusal, isLogged, key, accounts, isClosed] = changes[draw(8)];
   auto after = banks;
   after.erase(name);
-  if (change.refusal.isEmpty() && !change.name.isEmpty()) {
-    after[change.name] = Bank(change.name, change.accounts, change.isClosed);
+  if (refusal.isEmpty() && !key.isEmpty()) {
+    after[key] = Bank(key, accounts, isClosed);
   }
-  make(change.make, change.refusal, map, banks, after);
-  expect(takeMessages().size() == (change.isLogged ? 1 : 0), "more or fewer messages");
+  make(change, refusal, map, banks, after);
+  expect(takeMessages().size() == (isLogged ? 1 : 0), "more or fewer messages");
   expect(map.find(number).has_value() != holder(number, banks, BankName()).isEmpty(), "found");
 }
 
@@ -179,13 +158,12 @@ QString placeholdersOf(QString const& text)
   return text.contains("%2") ? "%1|%2" : text.contains("%1") ? "%1" : "";
 }
 
-void takeSteps(std::span<std::uint8_t const> bytes)
+void takeSteps(std::size_t count, Draw const& draw)
 {
   takeMessages();
-  Bytes rest{bytes};
   BankMap map;
   Banks banks;
-  while (!rest.rest.empty()) {
-    rest.next(9) > 0 ? changeBank(rest, map, banks) : construct(rest, map, banks);
+  for (; count > 0; --count) {
+    draw(9) > 0 ? changeBank(draw, map, banks) : construct(draw, map, banks);
   }
 }
