@@ -9,12 +9,12 @@ BankName const none("None");
 
 Bank bank(BankName const& name, auto... numbers)
 {
-  return Bank(name, {{AccountNumber(numbers), Loan}...}, false);
+  return Bank(name, {{AccountNumber(static_cast<unsigned int>(numbers)), Loan}...}, false);
 }
 
 Bank closed(BankName const& name, auto... numbers)
 {
-  return Bank(name, {{AccountNumber(numbers), Loan}...}, true);
+  return Bank(name, {{AccountNumber(static_cast<unsigned int>(numbers)), Loan}...}, true);
 }
 
 BankMap banks(Bank const& underElm, Bank const& underOak, Bank const& underPine)
