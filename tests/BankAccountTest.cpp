@@ -1,25 +1,21 @@
 #include "support/Refusal.hpp"
 
-#include <banking/BankAccount.hpp>
-
-using namespace orv::banking;
-using orv::accounting::AccountNumber;
 using orv::foundation::LocaleAware;
 
-TEST(BankAccount, IsPresentedAndStreamed)
+TEST(BankAccount, IsPresentedAndWritten)
 {
-  BankAccount const account{BankName(QStringLiteral("É %1 %2")),
-                            {AccountNumber(100), BankAccountTypes::CreditCard}};
-  EXPECT_EQ(
-      streamed(account),
-      QStringLiteral("Bank (Financial Institution Name: (É %1 %2)), Account Type (Bank Account "
-                     "Number (100), Bank Account Type (Credit Card))"));
-  EXPECT_EQ(debuggedPlainly(account), streamed(account));
+  BankAccount const account{BankName("É %1 %2"), {AccountNumber(7), CreditCard}};
+  expectWritten(account, "Bank (Financial Institution Name: (É %1 %2)), Account Type (Bank Account "
+                         "Number (7), Bank Account Type (Credit Card))");
   EXPECT_EQ(presentationText(BankAccount{}, LocaleAware::No), ": 0 (Unknown)");
 
-  // The inner format is translated either way, the outer one never, the kind as asked.
-  ScopedTranslator const translator({{"%1 (%2)", "<%2|%1>"}, {"Credit Card", "Karte %1"}});
-  EXPECT_EQ(presentationText(account, LocaleAware::Yes), QStringLiteral("É %1 %2: <Karte %1|100>"));
-  EXPECT_EQ(presentationText(account, LocaleAware::No),
-            QStringLiteral("É %1 %2: <Credit Card|100>"));
+  // The inner format is looked up either way, before the kind; the outer one never.
+  QStringList looked;
+  ScopedTranslator const translator([&](QString const& text) {
+    looked += text;
+    return text == "%1 (%2)" ? "<%2|%1>" : "Karte %1";
+  });
+  EXPECT_EQ(presentationText(account, LocaleAware::Yes), "É %1 %2: <Karte %1|7>");
+  EXPECT_EQ(presentationText(account, LocaleAware::No), "É %1 %2: <Credit Card|7>");
+  EXPECT_EQ(looked, QStringList({"%1 (%2)", "Credit Card", "%1 (%2)"}));
 }

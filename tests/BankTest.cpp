@@ -1,51 +1,67 @@
+#include "support/Log.hpp"
 #include "support/Refusal.hpp"
 
-#include <banking/Bank.hpp>
+std::map<AccountNumber, BankAccountTypes> const invalid{{AccountNumber(), Loan}, {some, Unknown}};
+std::map<AccountNumber, BankAccountTypes> const unknown{{AccountNumber(1), Loan}, {some, Unknown}};
+std::map<AccountNumber, BankAccountTypes> const loan{{some, Loan}};
+std::map<AccountNumber, BankAccountTypes> const goal{{some, Goal}};
 
-using namespace orv::banking;
-using orv::accounting::AccountNumber;
-
-namespace {
-
-constexpr auto unknown = BankAccountTypes::Unknown;
-AccountNumber const none;
-AccountNumber const three(3);
-BankName const name("Acme %1 %2");
-std::map<AccountNumber, BankAccountTypes> const invalid{{none, unknown}};
-std::map<AccountNumber, BankAccountTypes> const ofUnknownType{{three, unknown}};
-
-} // namespace
-
+// Where two rules are broken, the first is told.
 TEST(Bank, RefusesToBreakItsRules)
 {
   Refusal<Bank> const refusals[] = {
-      {[](auto&) { Bank(BankName(), invalid, true); }, "",
+      {[](auto&) { Bank({}, invalid, true); }, BankName(),
        "The name of a financial institution cannot be empty."},
-      {[](auto&) { Bank(name, invalid, true); }, "Acme %1 %2",
+      {[](auto&) { Bank(elm, invalid, true); }, elm,
        "The bank account number of a financial institution cannot be invalid."},
-      {[](auto&) { Bank(name, ofUnknownType, true); }, "Acme %1 %2",
+      {[](auto&) { Bank(elm, unknown, true); }, elm,
        "The bank account type of a financial institution cannot be unknown."},
-      {[](auto& bank) { bank.close(); }, "Acme %1 %2",
-       "Cannot close a bank that is already closed."},
-      {[](auto&) { Bank(name, {}, false).open(); }, "Acme %1 %2",
+      {[](auto& bank) { bank.close(); }, elm, "Cannot close a bank that is already closed."},
+      {[](auto&) { Bank(elm, {}, false).open(); }, elm,
        "Cannot open a bank that is already opened."},
-      {[](auto& bank) { bank.add(none, unknown); }, "Acme %1 %2",
+      {[](auto& bank) { bank.add(AccountNumber(), Unknown); }, elm,
        "Cannot add an account number of a financial institution that is invalid."},
-      {[](auto& bank) { bank.add(three, unknown); }, "Acme %1 %2",
+      {[](auto& bank) { bank.add(some, Unknown); }, elm,
        "Cannot add an account type of a financial institution that is unknown."},
-      {[](auto& bank) { bank.remove(three); }, "Acme %1 %2",
-       "The account '3' is not associated with the financial institution."},
+      {[](auto& bank) { bank.remove(some); }, elm,
+       "The account '16909060' is not associated with the financial institution."},
   };
-  expectRefusals(Bank(name, {}, true), refusals);
+  expectRefusals(Bank(elm, {}, true), refusals);
 }
 
-TEST(Bank, StreamsItsAccountsInOrderAndStaysInBoolalpha)
+TEST(Bank, LogsWhatItIsAskedBeforeItDoesIt)
 {
-  constexpr auto loan = BankAccountTypes::Loan;
-  Bank const acme(name, {{AccountNumber(20), loan}, {three, BankAccountTypes::Savings}}, true);
+  Bank bank(BankName("É"), {{some, Loan}}, false);
+  takeMessages();
+  bank.close();
+  EXPECT_THROW(bank.close(), BankError);
+  bank.open();
+  bank.add(some, Goal);
+  auto const before = streamed(bank);
+  bank.remove(some);
+  EXPECT_EQ(takeMessages().replaceInStrings("\"Financial Institution Name: (É)\"", "É"),
+            QStringList({"Closing É", "Closing É", "Opening É",
+                         "Adding account number 16909060 which is \"Goal\" to É",
+                         "Removing account number 16909060 from \"" + before + "\""}));
+}
+
+TEST(Bank, WritesItsAccountsInOrderAndStaysInBoolalpha)
+{
+  Bank const bank(elm, {{some, Loan}, {AccountNumber(9), Goal}, {AccountNumber(10), Loan}}, true);
+  expectWritten(bank, "Bank: (Financial Institution Name: (Elm %2)), Account Numbers: (9=>Goal, "
+                      "10=>Loan, 16909060=>Loan), Is Closed: true)");
   std::ostringstream stream;
-  stream << acme << true;
-  EXPECT_EQ(stream.str(), "Bank: (Financial Institution Name: (Acme %1 %2)), Account Numbers: "
-                          "(3=>Savings, 20=>Loan), Is Closed: true)true");
-  EXPECT_EQ(debuggedPlainly(acme), streamed(acme));
+  stream << bank << false;
+  EXPECT_THAT(stream.str(), testing::EndsWith(")false"));
+}
+
+TEST(Bank, EqualsOneOfTheSameNameAccountsAndState)
+{
+  Bank const bank(elm, loan, false);
+  EXPECT_EQ(bank, Bank(elm, loan, false));
+  for (auto const& other :
+       {Bank(elm, goal, false), Bank(oak, loan, false), Bank(elm, loan, true)}) {
+    EXPECT_FALSE(bank == other);
+    EXPECT_FALSE(other == bank);
+  }
 }

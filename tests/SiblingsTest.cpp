@@ -1,17 +1,12 @@
-#include "support/Refusal.hpp"
+#include "support/Testing.hpp"
 
-#include <accounting/AccountNumber.hpp>
 #include <accounting/AccountTypes.hpp>
-#include <mintar/Currency.hpp>
-#include <mintar/Money.hpp>
+#include <foundation/Date.hpp>
 
-#include <QLocale>
+#include <QRegularExpression>
 
 #include <limits>
 
-using mintar::Currency;
-using mintar::Money;
-using orv::accounting::AccountNumber;
 using orv::accounting::AccountTypes;
 
 static_assert(int(AccountTypes::Asset) == 1 && int(AccountTypes::Liability) == 4);
@@ -20,33 +15,51 @@ static_assert(!std::is_convertible_v<unsigned int, AccountNumber>);
 
 TEST(AccountNumber, IsItsDigitsWhateverTheStreamFormat)
 {
-  AccountNumber const number(4294967295U);
   std::ostringstream stream;
-  stream << std::hex << std::showpos << number;
+  stream << std::hex << std::showpos << AccountNumber(4294967295U);
   EXPECT_EQ(stream.str(), "4294967295");
-  EXPECT_EQ(debugged(number), "4294967295 ");
+  EXPECT_EQ(debugged(AccountNumber(4294967295U)), "4294967295 ");
 }
 
-TEST(Money, IsShownExactlyAsTheLocaleShowsMoney)
+TEST(Date, IsShownInIsoFormOrAsTheLocaleDoes)
 {
-  std::tuple<char const*, char const*, qint64, QString> const cases[] = {
-      {"en_CA", "CAD", 123456, "$1,234.56"},
-      {"en_CA", "USD", 5, "USD\u00a00.05"},
-      {"en_CA", "CAD", -5, "($0.05)"},
-      {"en_US", "JPY", 1234, "JPY\u00a01,234"},
-      {"en_US", "KWD", 1234567, "KWD\u00a01,234.567"},
-      {"de_DE", "EUR", -123456, "-1.234,56\u00a0€"},
-      {"fr_CA", "CAD", 100, "1,00\u00a0$"},
-      {"ar_EG", "USD", 1203, "١٢٫٠٣\u00a0USD"},
-      {"C", "", 0, ""},
-      {"C", "CAD", std::numeric_limits<qint64>::min(), "-92233720368547758.08\u00a0CAD"},
-      {"C", "CAD", std::numeric_limits<qint64>::max(), "92233720368547758.07\u00a0CAD"},
-  };
-  for (auto const& [locale, currency, minorUnits, text] : cases) {
-    QLocale::setDefault(QLocale(QLatin1String(locale)));
-    EXPECT_EQ(streamed(Money(Currency(currency), minorUnits)), text) << locale;
+  QDate const date(2026, 1, 31);
+  EXPECT_EQ(orv::foundation::presentationText(date), "2026-01-31");
+  QLocale::setDefault(QLocale("de_DE"));
+  EXPECT_EQ(orv::foundation::presentationText(date),
+            QLocale().toString(date, QLocale::ShortFormat));
+  EXPECT_EQ(streamed(date), "2026-01-31");
+  QLocale::setDefault(QLocale::c());
+}
+
+// Qt decides the rest: the script of the digits, groups, marks, and where sign and symbol stand.
+TEST(Money, IsShownExactlyInItsCurrency)
+{
+  constexpr auto min = std::numeric_limits<qint64>::min();
+  constexpr auto max = std::numeric_limits<qint64>::max();
+  std::tuple<char const*, char const*, qint64, QString, QString> const amounts[] = {
+      {"en_CA", "CAD", 123456, "1234.56", "$"},
+      {"en_CA", "USD", 5, "0.05", "USD"},
+      {"en_CA", "CAD", -5, "-0.05", "$"},
+      {"en_US", "JPY", 1234, "1234", "JPY"},
+      {"de_DE", "KWD", -1234567, "-1234.567", "KWD"},
+      {"ar_EG", "CLF", 12034, "1.2034", "CLF"},
+      {"C", "CAD", min, "-92233720368547758.08", "CAD"},
+      {"C", "CAD", max, "92233720368547758.07", "CAD"},
+      {"C", "", 0, "", ""}};
+  for (auto const& [locale, currency, minorUnits, number, symbol] : amounts) {
+    QLocale::setDefault(QLocale(locale));
+    Money const money{Currency(currency), minorUnits};
+    auto const text = streamed(money);
+    expectWritten(money, text);
+    QString seen(text.contains(QRegularExpression("[-(\u2212]")) ? "-" : "");
+    for (auto const c : text) {
+      auto const digit = c.isDigit() ? QString::number(c.digitValue()) : QString();
+      seen += QLocale().decimalPoint() == c ? "." : digit;
+    }
+    EXPECT_EQ(seen, number) << text.toStdString();
+    EXPECT_TRUE(text.contains(symbol)) << text.toStdString();
+    EXPECT_FALSE(text.contains(QRegularExpression("[A-Z]\\d|\\d[A-Z]"))) << text.toStdString();
   }
   QLocale::setDefault(QLocale::c());
-  EXPECT_FALSE(Money(Currency("CAD"), 7) == Money(Currency("EUR"), 7));
-  EXPECT_EQ(debugged(Money(Currency("CLF"), 12345)), QStringLiteral("\"1.2345\u00a0CLF\" "));
 }

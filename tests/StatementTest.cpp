@@ -1,5 +1,5 @@
 #include "Book.hpp"
-#include "support/Printing.hpp"
+#include "support/Testing.hpp"
 
 #include <QFile>
 #include <QRegularExpression>

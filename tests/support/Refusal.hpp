@@ -1,22 +1,11 @@
 #pragma once
 
-#include "support/Printing.hpp"
 #include "support/ScopedTranslator.hpp"
-#include "support/Texts.hpp"
+#include "support/Testing.hpp"
 
-#include <banking/BankError.hpp>
-
-#include <QString>
-
-#include <exception>
-#include <functional>
-#include <gmock/gmock.h>
-#include <typeinfo>
-
-/// Expects the call to throw an error of exactly this type, not of one derived from it, with exactly
-/// this text.
-template <typename Error, typename Call>
-void expectThrows(QString const& text, Call&& call)
+/// Expects the call to throw an error of exactly this type, not of one derived from it, with this text.
+template <typename Error>
+void expectThrows(QString const& text, auto const& call)
 {
   try {
     call();
@@ -32,21 +21,22 @@ template <typename Subject>
 struct Refusal
 {
   std::function<void(Subject&)> call;
-  QString bank;
+  BankName bank;
   QString message;
 };
 
 /// Expects each refusal in plain and in translated text, and that it leaves the subject as it was.
-template <typename Subject, typename Refusals>
-void expectRefusals(Subject const& subject, Refusals const& refusals)
+template <typename Subject>
+void expectRefusals(Subject const& subject, auto const& refusals)
 {
   for (Refusal<Subject> const& refusal : refusals) {
     auto changed = subject;
     auto const expectText = [&](QString const& mark) {
-      expectThrows<orv::banking::BankError>(bankErrorText(refusal.bank, refusal.message, mark),
-                                            [&] { refusal.call(changed); });
+      expectThrows<BankError>(mark + "There is an issue with the bank '" +
+                                  refusal.bank.institution() + "'. " + mark + refusal.message,
+                              [&] { refusal.call(changed); });
     };
-    expectText({});
+    expectText("");
     ScopedTranslator const translator;
     expectText("~");
     EXPECT_EQ(streamed(changed), streamed(subject)) << refusal.message.toStdString();

@@ -1,7 +1,7 @@
-#include <QCoreApplication>
-#include <QLocale>
+#include "support/Log.hpp"
+#include "support/Testing.hpp"
 
-#include <gmock/gmock.h>
+#include <QCoreApplication>
 
 int main(int argc, char** argv)
 {
@@ -9,6 +9,7 @@ int main(int argc, char** argv)
   qunsetenv("QT_LOGGING_RULES");
   QLocale::setDefault(QLocale::c());
   QCoreApplication const application(argc, argv);
+  qInstallMessageHandler(&keepMessage);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
 }

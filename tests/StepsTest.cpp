@@ -1,0 +1,35 @@
+#include "model/Steps.hpp"
+
+#include "support/ScopedTranslator.hpp"
+#include "support/Testing.hpp"
+
+#include <random>
+#include <thread>
+
+namespace {
+
+void takeRandomSteps(unsigned int seed)
+{
+  std::mt19937 random(seed);
+  auto const draw = [&](unsigned int bound) { return static_cast<unsigned int>(random() % bound); };
+  EXPECT_NO_THROW(takeSteps(500, draw)) << "seed " << seed;
+}
+
+} // namespace
+
+TEST(Steps, LeaveWhatTheModelHolds)
+{
+  ScopedTranslator const translator(&placeholdersOf);
+  for (unsigned int seed = 0; seed < 50; ++seed) {
+    takeRandomSteps(seed);
+  }
+}
+
+TEST(Threads, TakeStepsAtTheSameTime)
+{
+  ScopedTranslator const translator(&placeholdersOf);
+  std::vector<std::jthread> threads;
+  for (unsigned int seed = 0; seed < 4; ++seed) {
+    threads.emplace_back(&takeRandomSteps, seed);
+  }
+}
