@@ -10,7 +10,10 @@ namespace orv::foundation {
 
 QString presentationText(QDate const& date)
 {
-  return QLocale().toString(date, QLocale::ShortFormat);
+  QLocale const locale;
+  // The C locale's own short form differs between releases of Qt.
+  return locale.language() == QLocale::C ? date.toString(Qt::ISODate)
+                                         : locale.toString(date, QLocale::ShortFormat);
 }
 
 } // namespace orv::foundation
