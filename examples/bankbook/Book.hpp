@@ -1,8 +1,9 @@
 #pragma once
 
 #include <accounting/AccountNumber.hpp>
+#include <banking/BankAccount.hpp>
 #include <banking/BankMap.hpp>
-#include <banking/ReconciledBankAccount.hpp>
+#include <banking/ReconciledBalance.hpp>
 
 #include <QByteArrayView>
 #include <QCoreApplication>
@@ -11,6 +12,7 @@
 #include <QStringList>
 
 #include <map>
+#include <optional>
 
 /// A household's books: its banks, and the last reconciliation of each account that has one.
 class Book
@@ -18,14 +20,15 @@ class Book
   Q_DECLARE_TR_FUNCTIONS(Book)
 
 public:
-  /// `folder` is where the book's words for files start from.
+  /// Creates an empty book. The names of files in its lines are relative to `folder`.
   explicit Book(QDir const& folder = QDir::current()) : folder_(folder) {}
 
-  /// Carries out a line, one command, and gives what there is to print. Throws what the library throws
-  /// and BookError, with a text for the user and with nothing changed.
+  /// Carries out a line, which is one command, and returns what there is to show, in printable lines.
+  ///
+  /// \throws BookError or what the library throws, with a text for the user; the book is unchanged
   QString execute(QByteArrayView line);
 
-  /// How each command is written, a line each, and which kinds of account there are.
+  /// Returns how each command is written, a line each, and which kinds of account there are.
   static QString usage();
 
 private:
@@ -45,14 +48,26 @@ private:
   QString statement(QStringList const& words);
   QString update(QStringList const& words);
 
-  // The account on record. Throws where no bank holds the number.
-  orv::banking::BankAccount accountOnRecord(orv::accounting::AccountNumber const& number) const;
+  using Accounts = std::map<orv::accounting::AccountNumber, orv::banking::BankAccountTypes>;
 
-  // Brings the balances at the bank that was called `before` in line with what the registry now says
-  // of the bank `after`.
-  void follow(orv::banking::BankName const& before, orv::banking::BankName const& after);
+  // No accounts where there is no such bank.
+  Accounts accountsAt(orv::banking::BankName const& name) const;
+
+  std::optional<orv::banking::BankAccount>
+  accountOf(orv::accounting::AccountNumber const& number) const;
+
+  // The account with the number that the word is. Throws where no bank holds it.
+  orv::banking::BankAccount accountOnRecord(QString const& word) const;
+
+  // Reconciles the account. `currency` is that of the balance.
+  void record(orv::banking::BankAccount const& account, QDate const& date,
+              mintar::Money const& balance, QString const& currency);
+
+  // Drops the balances of the accounts that a bank held before a change and does not hold after it.
+  void forget(Accounts const& before, Accounts const& after);
 
   QDir folder_;
   orv::banking::BankMap banks_;
-  std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBankAccount> balances_;
+  // Of the accounts that have been reconciled. The registry knows which bank holds each, and as what.
+  std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBalance> balances_;
 };

@@ -3,8 +3,12 @@
 #include "BookError.hpp"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 #include <QStringDecoder>
+
+#include <algorithm>
+#include <stdexcept>
+
+using orv::banking::BankAccountTypes;
 
 namespace {
 
@@ -13,11 +17,21 @@ struct BookReader
   Q_DECLARE_TR_FUNCTIONS(BookReader)
 };
 
-bool matches(QString const& word, char const* pattern)
+bool isDigit(QChar c)
 {
-  return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(pattern)))
-      .match(word)
-      .hasMatch();
+  return c >= u'0' && c <= u'9';
+}
+
+// Whether there are characters and all are digits from 0 to 9. Qt's conversions take signs and spaces, too.
+bool isDigits(QStringView text)
+{
+  return !text.isEmpty() && std::all_of(text.begin(), text.end(), isDigit);
+}
+
+bool isCurrencyCode(QStringView text)
+{
+  return text.size() == 3 &&
+         std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
 }
 
 bool isBlank(QChar c)
@@ -29,6 +43,9 @@ bool isBlank(QChar c)
 
 QString toText(QByteArrayView line)
 {
+  if (line.contains('\0')) {
+    throw BookError(BookReader::tr("The line contains a NUL character."));
+  }
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString text = decode(line);
   if (decode.hasError()) {
@@ -85,16 +102,37 @@ orv::accounting::AccountNumber toAccountNumber(QString const& word)
 {
   bool fits = false;
   auto const integer = word.toUInt(&fits);
-  if (!fits || !matches(word, "[0-9]+")) {
+  if (!fits || !isDigits(word)) {
     throw BookError(BookReader::tr("'%1' is not an account number.").arg(word));
   }
   return orv::accounting::AccountNumber(integer);
 }
 
+BankAccountTypes toKind(QString const& word)
+{
+  try {
+    return orv::banking::toBankAccountTypes(word);
+  } catch (std::logic_error const&) { // whose text is for programmers
+    throw BookError(BookReader::tr("'%1' is no kind of account; the kinds are: %2.")
+                        .arg(word, kindsOfAccount()));
+  }
+}
+
+QString kindsOfAccount()
+{
+  QStringList kinds;
+  for (auto const kind :
+       {BankAccountTypes::Chequeing, BankAccountTypes::CreditCard, BankAccountTypes::Loan,
+        BankAccountTypes::Savings, BankAccountTypes::Goal}) {
+    kinds += presentationText(kind);
+  }
+  return kinds.join(QStringLiteral(", "));
+}
+
 QDate toDate(QString const& word)
 {
-  auto const date = QDate::fromString(word, QStringLiteral("yyyy-MM-dd"));
-  if (!date.isValid()) {
+  auto const date = QDate::fromString(word, Qt::ISODate);
+  if (!date.isValid() || date.toString(Qt::ISODate) != word) { // Qt takes other separators, too
     throw BookError(BookReader::tr("'%1' is not a date such as 2026-01-31.").arg(word));
   }
   return date;
@@ -102,19 +140,19 @@ QDate toDate(QString const& word)
 
 mintar::Money toMoney(QString const& amount, QString const& currency)
 {
-  if (!matches(currency, "[A-Z]{3}")) {
+  if (!isCurrencyCode(currency)) {
     throw BookError(BookReader::tr("'%1' is not a currency code such as CAD.").arg(currency));
   }
   mintar::Currency const known(currency);
   auto const point = amount.indexOf(u'.');
-  auto const decimals = point < 0 ? 0 : amount.size() - point - 1;
+  auto const whole = amount.left(point); // all of it where there is no point
+  auto const decimals = point < 0 ? QString() : amount.mid(point + 1);
+  auto const minorUnits = whole + decimals.leftJustified(known.decimals(), u'0');
   bool fits = false;
-  // In minor units: without the point, and with the decimals that were left out.
-  auto const minorUnits = (QString(amount).remove(u'.') +
-                           QString(qMax<qsizetype>(0, known.decimals() - decimals), QChar(u'0')))
-                              .toLongLong(&fits);
-  if (!fits || decimals > known.decimals() || !matches(amount, "-?[0-9]+(\\.[0-9]+)?")) {
+  mintar::Money const money(known, minorUnits.toLongLong(&fits));
+  if (!fits || !isDigits(whole.startsWith(u'-') ? whole.mid(1) : whole) ||
+      (point >= 0 && !isDigits(decimals)) || decimals.size() > known.decimals()) {
     throw BookError(BookReader::tr("'%1' is not an amount of %2.").arg(amount, currency));
   }
-  return {known, minorUnits};
+  return money;
 }
