@@ -194,7 +194,7 @@ QString Book::remove(QStringList const& words)
   if (words.size() == 1) {
     auto const before = accountsAt(name);
     banks_.remove(name);
-    forget(before, {});
+    forgetGone(before);
   } else {
     auto const number = toAccountNumber(words[1]);
     banks_.remove(name, number);
@@ -226,15 +226,9 @@ QString Book::update(QStringList const& words)
 {
   auto bank = toBank(words);
   auto const before = accountsAt(bank.name());
-  auto const after = bank.accounts();
   banks_.update(std::move(bank));
-  forget(before, after);
+  forgetGone(before);
   return {};
-}
-
-Book::Accounts Book::accountsAt(BankName const& name) const
-{
-  return banks_.hasBank(name) ? banks_.bank(name).accounts() : Accounts();
 }
 
 std::optional<BankAccount> Book::accountOf(AccountNumber const& number) const
@@ -273,10 +267,15 @@ void Book::record(BankAccount const& account, QDate const& date, mintar::Money c
   balances_.insert_or_assign(number, ReconciledBalance{balance, date});
 }
 
-void Book::forget(Accounts const& before, Accounts const& after)
+Book::Accounts Book::accountsAt(BankName const& name) const
 {
-  for (auto const& [number, kind] : before) {
-    if (!after.contains(number)) {
+  return banks_.hasBank(name) ? banks_.bank(name).accounts() : Accounts();
+}
+
+void Book::forgetGone(Accounts const& accounts)
+{
+  for (auto const& [number, kind] : accounts) {
+    if (!accountOf(number)) {
       balances_.erase(number);
     }
   }

@@ -48,11 +48,6 @@ private:
   QString statement(QStringList const& words);
   QString update(QStringList const& words);
 
-  using Accounts = std::map<orv::accounting::AccountNumber, orv::banking::BankAccountTypes>;
-
-  // No accounts where there is no such bank.
-  Accounts accountsAt(orv::banking::BankName const& name) const;
-
   std::optional<orv::banking::BankAccount>
   accountOf(orv::accounting::AccountNumber const& number) const;
 
@@ -63,8 +58,13 @@ private:
   void record(orv::banking::BankAccount const& account, QDate const& date,
               mintar::Money const& balance, QString const& currency);
 
-  // Drops the balances of the accounts that a bank held before a change and does not hold after it.
-  void forget(Accounts const& before, Accounts const& after);
+  using Accounts = std::map<orv::accounting::AccountNumber, orv::banking::BankAccountTypes>;
+
+  // No accounts where there is no such bank.
+  Accounts accountsAt(orv::banking::BankName const& name) const;
+
+  // Drops the balances of those of the accounts that no bank holds any more.
+  void forgetGone(Accounts const& accounts);
 
   QDir folder_;
   orv::banking::BankMap banks_;

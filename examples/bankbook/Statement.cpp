@@ -8,7 +8,6 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <utility>
 
 using orv::banking::BankAccountTypes;
 
@@ -64,33 +63,7 @@ QString valueOf(QStringView text)
   return xml.hasError() ? plain : value; // in SGML, an ampersand may also stand for itself
 }
 
-bool isStatement(QString const& name)
-{
-  return name == u"STMTRS" || name == u"CCSTMTRS";
-}
-
-// Where an element stands in a statement: its name, after that of its parent where that is a part of the
-// statement. Empty where it stands elsewhere. `parents` are the elements around it, the outermost first.
-QString placeOf(QString const& name, QStringList const& parents)
-{
-  auto const depth = parents.size();
-  if (depth > 0 && isStatement(parents[depth - 1])) {
-    return name;
-  }
-  if (depth < 2 || !isStatement(parents[depth - 2])) {
-    return {};
-  }
-  auto const& part = parents[depth - 1];
-  return part == u"BANKACCTFROM" || part == u"CCACCTFROM" ? name : part + u'/' + name;
-}
-
-[[noreturn]] void refuseWithout(QString const& name)
-{
-  throw BookError(
-      Statement::tr("The file is cut short or damaged: it lacks <%1> or </%1>.").arg(name));
-}
-
-// What each statement in the file says.
+// What each statement in the file says. Throws where the file is not one whole OFX file.
 QList<Values> valuesIn(QString const& content)
 {
   auto const tags = tagsIn(content);
@@ -99,53 +72,47 @@ QList<Values> valuesIn(QString const& content)
   if (starts == 0) {
     throw BookError(Statement::tr("The file is not an OFX file."));
   }
-  auto const behind = tags.last().text;
-  if (starts > 1 || behind.contains(u"<OFX>", Qt::CaseInsensitive)) {
+  if (starts > 1 || tags.last().text.contains(u"<OFX>", Qt::CaseInsensitive)) {
     throw BookError(Statement::tr("The file is several OFX files in one."));
   }
+  BookError const cutShort(Statement::tr("The file is cut short or damaged."));
 
   // Backwards, as it takes the end tag to tell an element that holds others from one that holds a value
   // and may do without.
   QList<Values> statements;
   QStringList parents; // of the tag, the outermost first
-  auto inStatement = false;
+  qsizetype depth = 0; // of what stands directly in the statement that the tag is in, if any
   for (auto i = tags.size() - 1; i >= 0; --i) {
     auto const& [name, isEnd, text] = tags[i];
+    auto const isStatement = name == u"STMTRS" || name == u"CCSTMTRS";
+    auto const hasEnd = isEnd || parents.endsWith(name);
+    if ((!hasEnd && (isStatement || name == u"OFX")) || (isEnd && isStatement && depth > 0)) {
+      throw cutShort;
+    }
     if (isEnd) {
-      if (isStatement(name)) {
-        statements.prepend(Values());
-        if (std::exchange(inStatement, true)) {
-          refuseWithout(name);
-        }
-      }
       parents += name;
-      continue;
-    }
-    auto const hasEnd = !parents.isEmpty() && parents.last() == name;
-    if (hasEnd) {
+    } else if (hasEnd) {
       parents.removeLast();
-    } else if (isStatement(name) || name == u"OFX") {
-      refuseWithout(name);
     }
-    if (isStatement(name)) {
-      inStatement = false;
-      if (name == u"CCSTMTRS") {
-        statements.first().insert(QStringLiteral("ACCTTYPE"), QStringLiteral("CREDITCARD"));
+    if (isStatement) {
+      depth = isEnd ? parents.size() : 0;
+      if (isEnd) {
+        statements.prepend(name == u"STMTRS" ? Values() : Values{{"ACCTTYPE", "CREDITCARD"}});
       }
-    }
-    auto const place = placeOf(name, parents);
-    if (!place.isEmpty() && (!hasEnd || tags[i + 1].isEnd)) {
-      statements.first()[place].prepend(valueOf(text) + u' ');
+    } else if (depth > 0 && !isEnd && parents.size() <= depth + 1 &&
+               (!hasEnd || tags[i + 1].isEnd)) {
+      auto const place = (parents.mid(depth) << name).join(u'/');
+      statements.first()[place.section("ACCTFROM/", -1)].prepend(valueOf(text) + u' ');
     }
   }
-  if (inStatement) {
-    refuseWithout(QStringLiteral("STMTRS"));
+  if (depth > 0) {
+    throw cutShort;
   }
   return statements;
 }
 
 // The kinds of account that a type of OFX stands for. A goal is money set aside.
-QList<BankAccountTypes> kindsOf(QString const& type)
+QList<BankAccountTypes> toKinds(QString const& type)
 {
   using enum BankAccountTypes;
   static QHash<QString, QList<BankAccountTypes>> const kinds{
@@ -154,7 +121,8 @@ QList<BankAccountTypes> kindsOf(QString const& type)
       {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
       {"CREDITCARD", {CreditCard}},
   };
-  return kinds.value(type.toUpper());
+  auto const found = kinds.find(type.toUpper());
+  return found != kinds.end() ? *found : throw BookError(type);
 }
 
 // An amount of OFX as a book has it: without a plus, with a point for a comma, and a digit before it.
@@ -190,16 +158,14 @@ auto readValue(Values const& values, QString const& element, Read&& read)
 
 Statement toStatement(Values const& values)
 {
-  auto const currency = readValue(values, QStringLiteral("CURDEF"), [](auto const& value) {
-    toMoney(QStringLiteral("0"), value);
-    return value;
-  });
-  return {readValue(values, QStringLiteral("ACCTID"), [](auto const& value) { return value; }),
-          currency,
-          readValue(values, QStringLiteral("LEDGERBAL/BALAMT"),
-                    [&](auto const& value) { return toMoney(bookAmount(value), currency); }),
-          readValue(values, QStringLiteral("LEDGERBAL/DTASOF"),
-                    [](auto const& value) { return toDate(bookDate(value)); })};
+  auto const asItIs = [](QString const& value) { return value; };
+  auto const currency = readValue(values, "CURDEF", asItIs);
+  readValue(values, "CURDEF", [](QString const& value) { return toMoney("0", value); });
+  return {readValue(values, "ACCTID", asItIs), currency,
+          readValue(values, "LEDGERBAL/BALAMT",
+                    [&](QString const& value) { return toMoney(bookAmount(value), currency); }),
+          readValue(values, "LEDGERBAL/DTASOF",
+                    [](QString const& value) { return toDate(bookDate(value)); })};
 }
 
 } // namespace
@@ -212,24 +178,20 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
     throw BookError(Statement::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
   }
   QStringList accountIds;
-  QStringList otherTypes;
+  QString otherType; // of a statement of the account, for another kind
   QList<Statement> statements;
   for (auto const& values : valuesIn(QString::fromUtf8(content))) {
-    accountIds += values.value(QStringLiteral("ACCTID")).simplified();
+    accountIds += values.value("ACCTID").simplified();
     if (!accountId.isEmpty() && accountIds.last() != accountId) {
       continue;
     }
-    auto const type = values.value(QStringLiteral("ACCTTYPE")).simplified();
-    if (!kindsOf(type).contains(account.bankAccountType)) {
-      otherTypes += type;
+    if (!readValue(values, "ACCTTYPE", &toKinds).contains(account.bankAccountType)) {
+      otherType = values.value("ACCTTYPE").simplified();
     } else if (auto const statement = toStatement(values); !statements.contains(statement)) {
       statements += statement;
     }
   }
-  auto const ids = accountIds.join(QStringLiteral(", "));
-  if (statements.size() == 1) {
-    return statements.first();
-  }
+  auto const ids = accountIds.join(", ");
   if (statements.size() > 1) {
     throw BookError(
         Statement::tr("The file has statements that differ, of the accounts: %1.").arg(ids));
@@ -237,18 +199,14 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
   if (accountIds.isEmpty()) {
     throw BookError(Statement::tr("The file has no statement of a bank account or a credit card."));
   }
-  if (otherTypes.isEmpty()) {
+  if (statements.isEmpty() && otherType.isEmpty()) {
     throw BookError(Statement::tr("The file has no statement of the account '%1', but of: %2.")
                         .arg(accountId, ids));
   }
-  for (auto const& type : otherTypes) {
-    readValue({{QStringLiteral("ACCTTYPE"), type}}, QStringLiteral("ACCTTYPE"),
-              [](auto const& value) {
-                return kindsOf(value).isEmpty() ? throw BookError(value) : value;
-              });
+  if (statements.isEmpty()) {
+    throw BookError(
+        Statement::tr("The account %1 is not of the kind that the statement is for, '%2'.")
+            .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
   }
-  throw BookError(
-      Statement::tr("The account %1 is not of the kind that the statement is for, '%2'.")
-          .arg(presentationText(account, orv::foundation::LocaleAware::Yes),
-               otherTypes.join(QStringLiteral(", "))));
+  return statements.first();
 }

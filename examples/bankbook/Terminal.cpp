@@ -9,20 +9,14 @@ namespace {
 
 bool isPrintable(char32_t c)
 {
-  switch (QChar::category(c)) {
-  case QChar::Other_Control:
-  case QChar::Other_Surrogate:
-  case QChar::Separator_Line:
-  case QChar::Separator_Paragraph:
-    return false;
-  case QChar::Other_Format:
-    // Scripts and emoji join with these two, and right-to-left locales write marks into dates and amounts.
-    return c == 0x200C || c == 0x200D ||
-           (QLocale().textDirection() == Qt::RightToLeft &&
-            (c == 0x061C || c == 0x200E || c == 0x200F));
-  default:
-    return true;
+  auto const category = QChar::category(c);
+  if (category == QChar::Other_Format) {
+    // Scripts and emoji join with the first two; right-to-left locales write the others into amounts.
+    auto const isMark = c == 0x061C || c == 0x200E || c == 0x200F;
+    return c == 0x200C || c == 0x200D || (isMark && QLocale().textDirection() == Qt::RightToLeft);
   }
+  return category != QChar::Other_Control && category != QChar::Separator_Line &&
+         category != QChar::Separator_Paragraph;
 }
 
 // In columns of a terminal.
@@ -37,20 +31,6 @@ qsizetype widthOf(QString const& text)
   return width;
 }
 
-QString toLine(QStringList const& cells, QList<qsizetype> const& widths, QByteArrayView alignments)
-{
-  QString line;
-  for (qsizetype i = 0; i < cells.size(); ++i) {
-    QString const padding(widths[i] - widthOf(cells[i]), u' ');
-    line += alignments[i] == 'r' ? padding + cells[i] : cells[i] + padding;
-    line += QStringLiteral("  ");
-  }
-  while (line.endsWith(u' ')) {
-    line.chop(1);
-  }
-  return line + u'\n';
-}
-
 } // namespace
 
 QString printable(QString const& text)
@@ -63,24 +43,29 @@ QString printable(QString const& text)
   return shown;
 }
 
-QString toTable(QList<QStringList> const& rowsWithHeader, QByteArrayView alignments)
+QString toTable(QList<QStringList> rows, QByteArrayView alignments)
 {
-  auto rows = rowsWithHeader;
-  QList<qsizetype> widths(alignments.size(), 0);
-  for (auto& row : rows) {
-    for (qsizetype i = 0; i < row.size(); ++i) {
-      row[i] = printable(row[i]);
-      widths[i] = std::max(widths[i], widthOf(row[i]));
+  rows.insert(1, QStringList(alignments.size()));
+  QStringList lines(rows.size());
+  for (qsizetype column = 0; column < alignments.size(); ++column) {
+    qsizetype width = 0;
+    for (auto const& row : rows) {
+      width = std::max(width, widthOf(printable(row.value(column))));
+    }
+    rows[1][column] = QString(width, u'-');
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+      auto const cell = printable(rows[i].value(column));
+      QString const padding(width - widthOf(cell), u' ');
+      lines[i] += alignments[column] == 'r' ? padding + cell : cell + padding;
+      lines[i] += QStringLiteral("  ");
     }
   }
-  QStringList underline;
-  for (auto const width : widths) {
-    underline += QString(width, u'-');
-  }
-  rows.insert(1, underline);
   QString table;
-  for (auto const& row : rows) {
-    table += toLine(row, widths, alignments);
+  for (auto& line : lines) {
+    while (line.endsWith(u' ')) {
+      line.chop(1);
+    }
+    table += line + u'\n';
   }
   return table;
 }

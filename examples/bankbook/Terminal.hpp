@@ -10,5 +10,5 @@
 QString printable(QString const& text);
 
 /// Returns a table for a terminal, every cell printable: columns as wide as their widest text, two
-/// spaces apart, the header underlined. `alignments` has one letter a column, l for left, r for right.
-QString toTable(QList<QStringList> const& rowsWithHeader, QByteArrayView alignments);
+/// spaces apart, the first row underlined. `alignments` has one letter a column, l for left, r for right.
+QString toTable(QList<QStringList> rows, QByteArrayView alignments);
