@@ -1,33 +1,19 @@
 #include "Book.hpp"
 
-#include "BookError.hpp"
 #include "BookReader.hpp"
-#include "Statement.hpp"
 #include "Terminal.hpp"
 
-#include <accounting/AccountNumber.hpp>
-#include <banking/Bank.hpp>
-#include <banking/BankAccount.hpp>
-#include <banking/BankAccountTypes.hpp>
 #include <banking/ReconciledBankAccount.hpp>
 #include <foundation/Date.hpp>
-#include <foundation/LocaleAware.hpp>
 
 #include <QFile>
 #include <QFileInfo>
 
 #include <limits>
 #include <sstream>
-#include <stdexcept>
-#include <utility>
 
+using namespace orv::banking;
 using orv::accounting::AccountNumber;
-using orv::banking::Bank;
-using orv::banking::BankAccount;
-using orv::banking::BankAccountTypes;
-using orv::banking::BankName;
-using orv::banking::ReconciledBalance;
-using orv::banking::ReconciledBankAccount;
 using orv::foundation::LocaleAware;
 using orv::foundation::presentationText; // of a date, whose own namespace has none
 
@@ -68,7 +54,7 @@ struct Book::Command
   char const* arguments; // the source text, for the translator
   qsizetype fewestWords;
   qsizetype mostWords;
-  QString (Book::*run)(QStringList const& words);
+  void (Book::*run)(QStringList const& words);
 
   QString written(QString const& name) const
   {
@@ -120,36 +106,35 @@ QString Book::execute(QByteArrayView line)
   if (words.size() < command.fewestWords || words.size() > command.mostWords) {
     throw BookError(tr("The command is written: %1").arg(command.written(name)));
   }
-  return (this->*command.run)(words);
+  shown_.clear();
+  (this->*command.run)(words);
+  return shown_;
 }
 
-QString Book::add(QStringList const& words)
+void Book::add(QStringList const& words)
 {
   banks_.add(BankName(words[0]), toAccountNumber(words[1]), toKind(words[2]));
-  return {};
 }
 
-QString Book::bank(QStringList const& words)
+void Book::bank(QStringList const& words)
 {
   banks_.add(toBank(words));
-  return {};
 }
 
-QString Book::close(QStringList const& words)
+void Book::close(QStringList const& words)
 {
   banks_.close(BankName(words[0]));
-  return {};
 }
 
-QString Book::find(QStringList const& words)
+void Book::find(QStringList const& words)
 {
   auto const number = toAccountNumber(words[0]);
   auto const account = accountOf(number);
   auto const text = account ? presentationText(*account, LocaleAware::Yes) : noHolderText(number);
-  return printable(text) + u'\n';
+  shown_ = printable(text) + u'\n';
 }
 
-QString Book::list(QStringList const& /*words*/)
+void Book::list(QStringList const& /*words*/)
 {
   QList<QStringList> rows{{tr("Bank"), tr("State"), tr("Account"), tr("Kind"), tr("Class"),
                            tr("Balance"), tr("Reconciled")}};
@@ -167,68 +152,58 @@ QString Book::list(QStringList const& /*words*/)
       rows += row;
     }
   }
-  return toTable(rows, "llrllrl");
+  shown_ = toTable(rows, "llrllrl");
 }
 
-QString Book::open(QStringList const& words)
+void Book::open(QStringList const& words)
 {
   banks_.open(BankName(words[0]));
-  return {};
 }
 
-QString Book::print(QStringList const& /*words*/)
+void Book::print(QStringList const& /*words*/)
 {
-  return printable(streamForm(banks_)) + u'\n';
+  shown_ = printable(streamForm(banks_)) + u'\n';
 }
 
-QString Book::reconcile(QStringList const& words)
+void Book::reconcile(QStringList const& words)
 {
   auto const account = accountOnRecord(words[0]);
-  record(account, toDate(words[1]), toMoney(words[2], words[3]), words[3]);
-  return {};
+  auto const date = toDate(words[1]);
+  record(account, {{}, words[3], toMoney(words[2], words[3]), date});
 }
 
-QString Book::remove(QStringList const& words)
+void Book::remove(QStringList const& words)
 {
   BankName const name(words[0]);
   if (words.size() == 1) {
-    auto const before = accountsAt(name);
     banks_.remove(name);
-    forgetGone(before);
+    dropBalances();
   } else {
     auto const number = toAccountNumber(words[1]);
     banks_.remove(name, number);
     balances_.erase(number);
   }
-  return {};
 }
 
-QString Book::rename(QStringList const& words)
+void Book::rename(QStringList const& words)
 {
   banks_.rename(BankName(words[0]), BankName(words[1]));
-  return {};
 }
 
-QString Book::statement(QStringList const& words)
+void Book::statement(QStringList const& words)
 {
   auto const account = accountOnRecord(words[0]);
   QFile file(folder_.filePath(words[1]));
   if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
     throw BookError(tr("There is no file '%1' that can be read.").arg(file.fileName()));
   }
-  auto const statement =
-      readStatement(file.readAll(), words.value(2), account.accountNumberBankType);
-  record(account, statement.date, statement.balance, statement.currency);
-  return {};
+  record(account, readStatement(file.readAll(), words.value(2), account.accountNumberBankType));
 }
 
-QString Book::update(QStringList const& words)
+void Book::update(QStringList const& words)
 {
-  auto bank = toBank(words);
-  auto const before = accountsAt(bank.name());
-  banks_.update(std::move(bank));
-  forgetGone(before);
-  return {};
+  banks_.update(toBank(words));
+  dropBalances();
 }
 
 std::optional<BankAccount> Book::accountOf(AccountNumber const& number) const
@@ -250,33 +225,23 @@ BankAccount Book::accountOnRecord(QString const& word) const
   throw BookError(noHolderText(number));
 }
 
-void Book::record(BankAccount const& account, QDate const& date, mintar::Money const& balance,
-                  QString const& currency)
+void Book::record(BankAccount const& account, Statement const& statement)
 {
   auto const& number = account.accountNumberBankType.accountNumber;
-  auto const known = balances_.find(number);
-  auto reconciled = known == balances_.end() ? ReconciledBankAccount(account, {}, std::nullopt)
-                                             : ReconciledBankAccount(account, known->second.balance,
-                                                                     known->second.occurredOn);
+  ReconciledBankAccount reconciled(account, {}, std::nullopt);
+  if (auto const known = balances_.find(number); known != balances_.end()) {
+    reconciled = {account, known->second.balance, known->second.occurredOn};
+  }
   try {
-    reconciled.reconcile(date, balance);
+    reconciled.reconcile(statement.date, statement.balance);
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
     throw BookError(tr("The balance of the account number %1 is not kept in %2.")
-                        .arg(presentationText(number), currency));
+                        .arg(presentationText(number), statement.currency));
   }
-  balances_.insert_or_assign(number, ReconciledBalance{balance, date});
+  balances_.insert_or_assign(number, ReconciledBalance{statement.balance, statement.date});
 }
 
-Book::Accounts Book::accountsAt(BankName const& name) const
+void Book::dropBalances()
 {
-  return banks_.hasBank(name) ? banks_.bank(name).accounts() : Accounts();
-}
-
-void Book::forgetGone(Accounts const& accounts)
-{
-  for (auto const& [number, kind] : accounts) {
-    if (!accountOf(number)) {
-      balances_.erase(number);
-    }
-  }
+  std::erase_if(balances_, [this](auto const& balance) { return !accountOf(balance.first); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <accounting/AccountNumber.hpp>
+#include "Statement.hpp"
+
 #include <banking/BankAccount.hpp>
 #include <banking/BankMap.hpp>
 #include <banking/ReconciledBalance.hpp>
@@ -35,18 +36,18 @@ private:
   struct Command;
   static std::map<QString, Command> const& commands();
 
-  QString add(QStringList const& words);
-  QString bank(QStringList const& words);
-  QString close(QStringList const& words);
-  QString find(QStringList const& words);
-  QString list(QStringList const& words);
-  QString open(QStringList const& words);
-  QString print(QStringList const& words);
-  QString reconcile(QStringList const& words);
-  QString remove(QStringList const& words);
-  QString rename(QStringList const& words);
-  QString statement(QStringList const& words);
-  QString update(QStringList const& words);
+  void add(QStringList const& words);
+  void bank(QStringList const& words);
+  void close(QStringList const& words);
+  void find(QStringList const& words);
+  void list(QStringList const& words);
+  void open(QStringList const& words);
+  void print(QStringList const& words);
+  void reconcile(QStringList const& words);
+  void remove(QStringList const& words);
+  void rename(QStringList const& words);
+  void statement(QStringList const& words);
+  void update(QStringList const& words);
 
   std::optional<orv::banking::BankAccount>
   accountOf(orv::accounting::AccountNumber const& number) const;
@@ -54,19 +55,14 @@ private:
   // The account with the number that the word is. Throws where no bank holds it.
   orv::banking::BankAccount accountOnRecord(QString const& word) const;
 
-  // Reconciles the account. `currency` is that of the balance.
-  void record(orv::banking::BankAccount const& account, QDate const& date,
-              mintar::Money const& balance, QString const& currency);
+  // Reconciles the account with what the bank says of it.
+  void record(orv::banking::BankAccount const& account, Statement const& statement);
 
-  using Accounts = std::map<orv::accounting::AccountNumber, orv::banking::BankAccountTypes>;
-
-  // No accounts where there is no such bank.
-  Accounts accountsAt(orv::banking::BankName const& name) const;
-
-  // Drops the balances of those of the accounts that no bank holds any more.
-  void forgetGone(Accounts const& accounts);
+  // Drops the balances of accounts that no bank holds any more.
+  void dropBalances();
 
   QDir folder_;
+  QString shown_; // by the command that is carried out
   orv::banking::BankMap banks_;
   // Of the accounts that have been reconciled. The registry knows which bank holds each, and as what.
   std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBalance> balances_;

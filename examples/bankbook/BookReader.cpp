@@ -1,14 +1,13 @@
 #include "BookReader.hpp"
 
-#include "BookError.hpp"
-
 #include <QCoreApplication>
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <stdexcept>
+#include <utility>
 
 using orv::banking::BankAccountTypes;
+using enum BankAccountTypes;
 
 namespace {
 
@@ -17,21 +16,11 @@ struct BookReader
   Q_DECLARE_TR_FUNCTIONS(BookReader)
 };
 
-bool isDigit(QChar c)
+// Qt's conversions take signs, spaces and other digits, too.
+bool isAll(QStringView text, QChar first, QChar last)
 {
-  return c >= u'0' && c <= u'9';
-}
-
-// Whether there are characters and all are digits from 0 to 9. Qt's conversions take signs and spaces, too.
-bool isDigits(QStringView text)
-{
-  return !text.isEmpty() && std::all_of(text.begin(), text.end(), isDigit);
-}
-
-bool isCurrencyCode(QStringView text)
-{
-  return text.size() == 3 &&
-         std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+  return !text.isEmpty() &&
+         std::all_of(text.begin(), text.end(), [&](QChar c) { return c >= first && c <= last; });
 }
 
 bool isBlank(QChar c)
@@ -62,47 +51,37 @@ QStringList toWords(QString const& line)
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size(); ++i) {
     auto const c = line[i];
-    if (inQuotes) {
-      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
-      if (c == u'"') {
-        inQuotes = false;
-      } else if (c == u'\\' && (next == u'"' || next == u'\\')) {
-        word += next;
-        ++i;
-      } else {
-        word += c;
-      }
-    } else if (isBlank(c)) {
+    if (!inQuotes && (isBlank(c) || (c == u'#' && !inWord))) {
       if (inWord) {
-        words += word;
-        word.clear();
+        words += std::exchange(word, {});
         inWord = false;
       }
-    } else if (c == u'#' && !inWord) {
-      break;
-    } else {
-      inWord = true;
-      if (c == u'"') {
-        inQuotes = true;
-      } else {
-        word += c;
+      if (c == u'#') {
+        break;
       }
+      continue;
     }
+    inWord = true;
+    if (c == u'"') {
+      inQuotes = !inQuotes;
+      continue;
+    }
+    auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
+    auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
+    word += isEscape ? next : c;
+    i += isEscape ? 1 : 0;
   }
   if (inQuotes) {
     throw BookError(BookReader::tr("A quoted word does not end."));
   }
-  if (inWord) {
-    words += word;
-  }
-  return words;
+  return inWord ? words << word : words;
 }
 
 orv::accounting::AccountNumber toAccountNumber(QString const& word)
 {
   bool fits = false;
   auto const integer = word.toUInt(&fits);
-  if (!fits || !isDigits(word)) {
+  if (!fits || !isAll(word, u'0', u'9')) {
     throw BookError(BookReader::tr("'%1' is not an account number.").arg(word));
   }
   return orv::accounting::AccountNumber(integer);
@@ -121,9 +100,7 @@ BankAccountTypes toKind(QString const& word)
 QString kindsOfAccount()
 {
   QStringList kinds;
-  for (auto const kind :
-       {BankAccountTypes::Chequeing, BankAccountTypes::CreditCard, BankAccountTypes::Loan,
-        BankAccountTypes::Savings, BankAccountTypes::Goal}) {
+  for (auto const kind : {Chequeing, CreditCard, Loan, Savings, Goal}) {
     kinds += presentationText(kind);
   }
   return kinds.join(QStringLiteral(", "));
@@ -140,7 +117,7 @@ QDate toDate(QString const& word)
 
 mintar::Money toMoney(QString const& amount, QString const& currency)
 {
-  if (!isCurrencyCode(currency)) {
+  if (currency.size() != 3 || !isAll(currency, u'A', u'Z')) {
     throw BookError(BookReader::tr("'%1' is not a currency code such as CAD.").arg(currency));
   }
   mintar::Currency const known(currency);
@@ -150,8 +127,8 @@ mintar::Money toMoney(QString const& amount, QString const& currency)
   auto const minorUnits = whole + decimals.leftJustified(known.decimals(), u'0');
   bool fits = false;
   mintar::Money const money(known, minorUnits.toLongLong(&fits));
-  if (!fits || !isDigits(whole.startsWith(u'-') ? whole.mid(1) : whole) ||
-      (point >= 0 && !isDigits(decimals)) || decimals.size() > known.decimals()) {
+  if (!fits || !isAll(whole.mid(whole.startsWith(u'-') ? 1 : 0), u'0', u'9') ||
+      (point >= 0 && !isAll(decimals, u'0', u'9')) || decimals.size() > known.decimals()) {
     throw BookError(BookReader::tr("'%1' is not an amount of %2.").arg(amount, currency));
   }
   return money;

@@ -9,6 +9,16 @@
 #include <QString>
 #include <QStringList>
 
+#include <stdexcept>
+
+/// An error of whoever wrote a line, or of a file that it names. `what()` is for the user, translated and
+/// in UTF-8, as it is of the library's own errors.
+class BookError : public std::runtime_error
+{
+public:
+  explicit BookError(QString const& text) : std::runtime_error(text.toStdString()) {}
+};
+
 // How the words of a book are read. Each function throws BookError with the word in the text.
 
 /// Returns the text of a line. Throws for bytes that are not UTF-8, and for NUL.

@@ -1,6 +1,5 @@
 #include "Statement.hpp"
 
-#include "BookError.hpp"
 #include "BookReader.hpp"
 
 #include <QHash>
@@ -10,6 +9,7 @@
 #include <algorithm>
 
 using orv::banking::BankAccountTypes;
+using orv::foundation::LocaleAware;
 
 namespace {
 
@@ -191,22 +191,17 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
       statements += statement;
     }
   }
+  if (statements.size() == 1) {
+    return statements.first();
+  }
   auto const ids = accountIds.join(", ");
-  if (statements.size() > 1) {
-    throw BookError(
-        Statement::tr("The file has statements that differ, of the accounts: %1.").arg(ids));
-  }
-  if (accountIds.isEmpty()) {
-    throw BookError(Statement::tr("The file has no statement of a bank account or a credit card."));
-  }
-  if (statements.isEmpty() && otherType.isEmpty()) {
-    throw BookError(Statement::tr("The file has no statement of the account '%1', but of: %2.")
-                        .arg(accountId, ids));
-  }
-  if (statements.isEmpty()) {
-    throw BookError(
-        Statement::tr("The account %1 is not of the kind that the statement is for, '%2'.")
-            .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
-  }
-  return statements.first();
+  throw BookError(
+      ids.isEmpty() ? Statement::tr("The file has no statement of a bank account or a credit card.")
+      : !statements.isEmpty()
+          ? Statement::tr("The file has statements that differ, of the accounts: %1.").arg(ids)
+      : otherType.isEmpty()
+          ? Statement::tr("The file has no statement of the account '%1', but of: %2.")
+                .arg(accountId, ids)
+          : Statement::tr("The account %1 is not of the kind that the statement is for, '%2'.")
+                .arg(presentationText(account, LocaleAware::Yes), otherType));
 }

@@ -1,5 +1,5 @@
 #include "Book.hpp"
-#include "BookError.hpp"
+#include "BookReader.hpp"
 #include "Terminal.hpp"
 
 #include <QCommandLineParser>
@@ -23,9 +23,9 @@ namespace {
 
 enum ExitStatus
 {
-  AllDone = 0,
-  LinesRefused = 1,
-  NotRun = 2,
+  AllDone,
+  LinesRefused,
+  NotRun
 };
 
 struct Bankbook
@@ -33,21 +33,16 @@ struct Bankbook
   Q_DECLARE_TR_FUNCTIONS(Bankbook)
 };
 
-// Writes a line to standard error.
-void tell(QString const& text)
+// Writes a line to standard error. Returns the status for an end because of it.
+ExitStatus tell(QString const& text)
 {
   QTextStream(stderr) << printable(text) << '\n';
-}
-
-ExitStatus notRun(QString const& text)
-{
-  tell(text);
   return NotRun;
 }
 
 ExitStatus notRead(QString const& name)
 {
-  return notRun(Bankbook::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
+  return tell(Bankbook::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
 }
 
 // Writes the text to standard output. Returns whether all that was shown so far has been taken.
@@ -61,7 +56,7 @@ bool show(QString const& text)
 // Returns `status`, or another one where standard output did not take what was shown.
 ExitStatus ended(ExitStatus status)
 {
-  return show({}) ? status : notRun(Bankbook::tr("Standard output cannot be written."));
+  return show({}) ? status : tell(Bankbook::tr("Standard output cannot be written."));
 }
 
 // All texts depend on the locale, those of the other options too: so it is set before them, by a parser
@@ -75,9 +70,8 @@ bool setLocale(QCommandLineOption const& option)
   if (parser.isSet(option)) {
     QLocale::setDefault(QLocale(name)); // C for one that is not known
   }
-  auto const language = name.section(u'.', 0, 0);
-  return !parser.isSet(option) || QLocale().language() != QLocale::C || language == u"C" ||
-         language == u"POSIX";
+  return !parser.isSet(option) || QLocale().language() != QLocale::C ||
+         QStringList{"C", "POSIX"}.contains(name.section(u'.', 0, 0));
 }
 
 // Bankbook's own translation decides on the language of all texts: nobody is to read two at a time.
@@ -185,10 +179,10 @@ int main(int argc, char* argv[])
       file, Bankbook::tr("The book. Without it, or with -, standard input is read."),
       u'[' + file + u']');
   if (!parser.parse(QCoreApplication::arguments())) {
-    return notRun(parser.errorText());
+    return tell(parser.errorText());
   }
   if (!isLocaleKnown) {
-    return notRun(Bankbook::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
+    return tell(Bankbook::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
   }
   if (parser.isSet("help") || parser.isSet("version")) {
     show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
@@ -196,7 +190,7 @@ int main(int argc, char* argv[])
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
-    return notRun(Bankbook::tr("Only one book can be read at a time."));
+    return tell(Bankbook::tr("Only one book can be read at a time."));
   }
 
   auto const readsStandardInput = files.isEmpty() || files.first() == u"-";
