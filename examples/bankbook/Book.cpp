@@ -36,7 +36,7 @@ Bank toBank(QStringList const& words)
     auto const number = toAccountNumber(word.section(u'=', 0, 0));
     if (!accounts.emplace(number, toKind(word.section(u'=', 1))).second) {
       throw BookError(
-          Book::tr("The account number %1 is given twice.").arg(presentationText(number)));
+          BookError::tr("The account number %1 is given twice.").arg(presentationText(number)));
     }
   }
   return Bank(BankName(words[0]), std::move(accounts), false);
@@ -44,7 +44,7 @@ Bank toBank(QStringList const& words)
 
 QString noHolderText(AccountNumber const& number)
 {
-  return Book::tr("No bank holds the account number %1.").arg(presentationText(number));
+  return BookError::tr("No bank holds the account number %1.").arg(presentationText(number));
 }
 
 } // namespace
@@ -100,11 +100,11 @@ QString Book::execute(QByteArrayView line)
   auto const name = words.takeFirst();
   auto const found = commands().find(name);
   if (found == commands().end()) {
-    throw BookError(tr("There is no command '%1'.").arg(name));
+    throw BookError(BookError::tr("There is no command '%1'.").arg(name));
   }
   auto const& command = found->second;
   if (words.size() < command.fewestWords || words.size() > command.mostWords) {
-    throw BookError(tr("The command is written: %1").arg(command.written(name)));
+    throw BookError(BookError::tr("The command is written: %1").arg(command.written(name)));
   }
   shown_.clear();
   (this->*command.run)(words);
@@ -119,11 +119,6 @@ void Book::add(QStringList const& words)
 void Book::bank(QStringList const& words)
 {
   banks_.add(toBank(words));
-}
-
-void Book::close(QStringList const& words)
-{
-  banks_.close(BankName(words[0]));
 }
 
 void Book::find(QStringList const& words)
@@ -155,11 +150,6 @@ void Book::list(QStringList const& /*words*/)
   shown_ = toTable(rows, "llrllrl");
 }
 
-void Book::open(QStringList const& words)
-{
-  banks_.open(BankName(words[0]));
-}
-
 void Book::print(QStringList const& /*words*/)
 {
   shown_ = printable(streamForm(banks_)) + u'\n';
@@ -185,17 +175,12 @@ void Book::remove(QStringList const& words)
   }
 }
 
-void Book::rename(QStringList const& words)
-{
-  banks_.rename(BankName(words[0]), BankName(words[1]));
-}
-
 void Book::statement(QStringList const& words)
 {
   auto const account = accountOnRecord(words[0]);
   QFile file(folder_.filePath(words[1]));
   if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-    throw BookError(tr("There is no file '%1' that can be read.").arg(file.fileName()));
+    throw BookError(BookError::tr("There is no file '%1' that can be read.").arg(file.fileName()));
   }
   record(account, readStatement(file.readAll(), words.value(2), account.accountNumberBankType));
 }
@@ -235,7 +220,7 @@ void Book::record(BankAccount const& account, Statement const& statement)
   try {
     reconciled.reconcile(statement.date, statement.balance);
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
-    throw BookError(tr("The balance of the account number %1 is not kept in %2.")
+    throw BookError(BookError::tr("The balance of the account number %1 is not kept in %2.")
                         .arg(presentationText(number), statement.currency));
   }
   balances_.insert_or_assign(number, ReconciledBalance{statement.balance, statement.date});

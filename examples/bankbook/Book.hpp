@@ -33,19 +33,21 @@ public:
   static QString usage();
 
 private:
+  using BankName = orv::banking::BankName;
+
   struct Command;
   static std::map<QString, Command> const& commands();
 
   void add(QStringList const& words);
   void bank(QStringList const& words);
-  void close(QStringList const& words);
+  void close(QStringList const& words) { banks_.close(BankName(words[0])); }
   void find(QStringList const& words);
   void list(QStringList const& words);
-  void open(QStringList const& words);
+  void open(QStringList const& words) { banks_.open(BankName(words[0])); }
   void print(QStringList const& words);
   void reconcile(QStringList const& words);
   void remove(QStringList const& words);
-  void rename(QStringList const& words);
+  void rename(QStringList const& words) { banks_.rename(BankName(words[0]), BankName(words[1])); }
   void statement(QStringList const& words);
   void update(QStringList const& words);
 

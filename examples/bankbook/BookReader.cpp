@@ -1,6 +1,5 @@
 #include "BookReader.hpp"
 
-#include <QCoreApplication>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -11,11 +10,6 @@ using enum BankAccountTypes;
 
 namespace {
 
-struct BookReader
-{
-  Q_DECLARE_TR_FUNCTIONS(BookReader)
-};
-
 // Qt's conversions take signs, spaces and other digits, too.
 bool isAll(QStringView text, QChar first, QChar last)
 {
@@ -23,22 +17,17 @@ bool isAll(QStringView text, QChar first, QChar last)
          std::all_of(text.begin(), text.end(), [&](QChar c) { return c >= first && c <= last; });
 }
 
-bool isBlank(QChar c)
-{
-  return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
-}
-
 } // namespace
 
 QString toText(QByteArrayView line)
 {
   if (line.contains('\0')) {
-    throw BookError(BookReader::tr("The line contains a NUL character."));
+    throw BookError(BookError::tr("The line contains a NUL character."));
   }
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString text = decode(line);
   if (decode.hasError()) {
-    throw BookError(BookReader::tr("The line is not UTF-8 text."));
+    throw BookError(BookError::tr("The line is not UTF-8 text."));
   }
   return text;
 }
@@ -51,7 +40,7 @@ QStringList toWords(QString const& line)
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size(); ++i) {
     auto const c = line[i];
-    if (!inQuotes && (isBlank(c) || (c == u'#' && !inWord))) {
+    if (!inQuotes && (QStringView(u" \t\r\n").contains(c) || (c == u'#' && !inWord))) {
       if (inWord) {
         words += std::exchange(word, {});
         inWord = false;
@@ -72,7 +61,7 @@ QStringList toWords(QString const& line)
     i += isEscape ? 1 : 0;
   }
   if (inQuotes) {
-    throw BookError(BookReader::tr("A quoted word does not end."));
+    throw BookError(BookError::tr("A quoted word does not end."));
   }
   return inWord ? words << word : words;
 }
@@ -82,7 +71,7 @@ orv::accounting::AccountNumber toAccountNumber(QString const& word)
   bool fits = false;
   auto const integer = word.toUInt(&fits);
   if (!fits || !isAll(word, u'0', u'9')) {
-    throw BookError(BookReader::tr("'%1' is not an account number.").arg(word));
+    throw BookError(BookError::tr("'%1' is not an account number.").arg(word));
   }
   return orv::accounting::AccountNumber(integer);
 }
@@ -92,7 +81,7 @@ BankAccountTypes toKind(QString const& word)
   try {
     return orv::banking::toBankAccountTypes(word);
   } catch (std::logic_error const&) { // whose text is for programmers
-    throw BookError(BookReader::tr("'%1' is no kind of account; the kinds are: %2.")
+    throw BookError(BookError::tr("'%1' is no kind of account; the kinds are: %2.")
                         .arg(word, kindsOfAccount()));
   }
 }
@@ -110,7 +99,7 @@ QDate toDate(QString const& word)
 {
   auto const date = QDate::fromString(word, Qt::ISODate);
   if (!date.isValid() || date.toString(Qt::ISODate) != word) { // Qt takes other separators, too
-    throw BookError(BookReader::tr("'%1' is not a date such as 2026-01-31.").arg(word));
+    throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31.").arg(word));
   }
   return date;
 }
@@ -118,7 +107,7 @@ QDate toDate(QString const& word)
 mintar::Money toMoney(QString const& amount, QString const& currency)
 {
   if (currency.size() != 3 || !isAll(currency, u'A', u'Z')) {
-    throw BookError(BookReader::tr("'%1' is not a currency code such as CAD.").arg(currency));
+    throw BookError(BookError::tr("'%1' is not a currency code such as CAD.").arg(currency));
   }
   mintar::Currency const known(currency);
   auto const point = amount.indexOf(u'.');
@@ -129,7 +118,7 @@ mintar::Money toMoney(QString const& amount, QString const& currency)
   mintar::Money const money(known, minorUnits.toLongLong(&fits));
   if (!fits || !isAll(whole.mid(whole.startsWith(u'-') ? 1 : 0), u'0', u'9') ||
       (point >= 0 && !isAll(decimals, u'0', u'9')) || decimals.size() > known.decimals()) {
-    throw BookError(BookReader::tr("'%1' is not an amount of %2.").arg(amount, currency));
+    throw BookError(BookError::tr("'%1' is not an amount of %2.").arg(amount, currency));
   }
   return money;
 }

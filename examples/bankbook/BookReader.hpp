@@ -5,6 +5,7 @@
 #include <mintar/Money.hpp>
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QDate>
 #include <QString>
 #include <QStringList>
@@ -15,6 +16,8 @@
 /// in UTF-8, as it is of the library's own errors.
 class BookError : public std::runtime_error
 {
+  Q_DECLARE_TR_FUNCTIONS(BookError)
+
 public:
   explicit BookError(QString const& text) : std::runtime_error(text.toStdString()) {}
 };

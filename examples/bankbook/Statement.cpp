@@ -9,7 +9,6 @@
 #include <algorithm>
 
 using orv::banking::BankAccountTypes;
-using orv::foundation::LocaleAware;
 
 namespace {
 
@@ -17,7 +16,8 @@ struct Tag
 {
   QString name; // in capital letters, without a namespace
   bool isEnd = false;
-  QStringView text; // up to the next tag
+  qsizetype begin = 0;
+  qsizetype end = 0; // where the text up to the next tag begins
 };
 
 // What a statement says, by element; the elements of its balance are named like LEDGERBAL/BALAMT.
@@ -34,33 +34,28 @@ QList<Tag> tagsIn(QString const& content)
       QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
   QList<Tag> tags;
   for (auto const& match : markup.globalMatch(content)) {
-    if (!match.hasCaptured(2)) {
-      continue;
+    auto const name = match.captured(2).toUpper();
+    auto const isEnd = match.capturedLength(1) > 0;
+    if (!name.isEmpty()) {
+      tags += {name, isEnd, match.capturedStart(), match.capturedEnd()};
     }
-    if (!tags.isEmpty()) {
-      auto& text = tags.last().text;
-      text = text.left(content.constData() + match.capturedStart() - text.data());
+    if (!name.isEmpty() && match.capturedView().endsWith(u"/>")) {
+      tags += {name, true, match.capturedEnd(), match.capturedEnd()};
     }
-    Tag const tag{match.captured(2).toUpper(), match.capturedLength(1) > 0,
-                  QStringView(content).mid(match.capturedEnd())};
-    tags += tag;
-    if (match.capturedView().endsWith(u"/>")) {
-      tags += {tag.name, true, tag.text};
-    }
-    if (tags.last().isEnd && tag.name == u"OFX") {
+    if (isEnd && name == u"OFX") {
       break;
     }
   }
   return tags;
 }
 
-QString valueOf(QStringView text)
+QString valueOf(QString text)
 {
-  auto const plain = text.toString().replace(QStringLiteral("&nbsp;"), QStringLiteral(" "));
-  QXmlStreamReader xml(QStringLiteral("<v>") + plain + QStringLiteral("</v>"));
+  text.replace("&nbsp;", " ");
+  QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();
   auto const value = xml.readElementText();
-  return xml.hasError() ? plain : value; // in SGML, an ampersand may also stand for itself
+  return xml.hasError() ? text : value; // in SGML, an ampersand may also stand for itself
 }
 
 // What each statement in the file says. Throws where the file is not one whole OFX file.
@@ -69,13 +64,11 @@ QList<Values> valuesIn(QString const& content)
   auto const tags = tagsIn(content);
   auto const starts = std::count_if(
       tags.begin(), tags.end(), [](auto const& tag) { return tag.name == u"OFX" && !tag.isEnd; });
-  if (starts == 0) {
-    throw BookError(Statement::tr("The file is not an OFX file."));
+  if (starts != 1 || content.indexOf(u"<OFX>", tags.last().end, Qt::CaseInsensitive) >= 0) {
+    throw BookError(starts == 0 ? BookError::tr("The file is not an OFX file.")
+                                : BookError::tr("The file is several OFX files in one."));
   }
-  if (starts > 1 || tags.last().text.contains(u"<OFX>", Qt::CaseInsensitive)) {
-    throw BookError(Statement::tr("The file is several OFX files in one."));
-  }
-  BookError const cutShort(Statement::tr("The file is cut short or damaged."));
+  BookError const cutShort(BookError::tr("The file is cut short or damaged."));
 
   // Backwards, as it takes the end tag to tell an element that holds others from one that holds a value
   // and may do without.
@@ -83,7 +76,7 @@ QList<Values> valuesIn(QString const& content)
   QStringList parents; // of the tag, the outermost first
   qsizetype depth = 0; // of what stands directly in the statement that the tag is in, if any
   for (auto i = tags.size() - 1; i >= 0; --i) {
-    auto const& [name, isEnd, text] = tags[i];
+    auto const& [name, isEnd, begin, end] = tags[i];
     auto const isStatement = name == u"STMTRS" || name == u"CCSTMTRS";
     auto const hasEnd = isEnd || parents.endsWith(name);
     if ((!hasEnd && (isStatement || name == u"OFX")) || (isEnd && isStatement && depth > 0)) {
@@ -101,14 +94,12 @@ QList<Values> valuesIn(QString const& content)
       }
     } else if (depth > 0 && !isEnd && parents.size() <= depth + 1 &&
                (!hasEnd || tags[i + 1].isEnd)) {
+      auto const text = content.mid(end, tags[i + 1].begin - end);
       auto const place = (parents.mid(depth) << name).join(u'/');
       statements.first()[place.section("ACCTFROM/", -1)].prepend(valueOf(text) + u' ');
     }
   }
-  if (depth > 0) {
-    throw cutShort;
-  }
-  return statements;
+  return depth == 0 ? statements : throw cutShort;
 }
 
 // The kinds of account that a type of OFX stands for. A goal is money set aside.
@@ -147,21 +138,20 @@ auto readValue(Values const& values, QString const& element, Read&& read)
 {
   auto const value = values.value(element).simplified();
   if (value.isEmpty()) {
-    throw BookError(Statement::tr("The statement has no %1.").arg(element));
+    throw BookError(BookError::tr("The statement has no %1.").arg(element));
   }
   try {
     return read(value);
   } catch (BookError const&) {
-    throw BookError(Statement::tr("The statement's %1 '%2' cannot be read.").arg(element, value));
+    throw BookError(BookError::tr("The statement's %1 '%2' cannot be read.").arg(element, value));
   }
 }
 
 Statement toStatement(Values const& values)
 {
-  auto const asItIs = [](QString const& value) { return value; };
-  auto const currency = readValue(values, "CURDEF", asItIs);
-  readValue(values, "CURDEF", [](QString const& value) { return toMoney("0", value); });
-  return {readValue(values, "ACCTID", asItIs), currency,
+  auto const currency =
+      readValue(values, "CURDEF", [](QString const& value) { return toMoney("0", value), value; });
+  return {readValue(values, "ACCTID", [](QString const& value) { return value; }), currency,
           readValue(values, "LEDGERBAL/BALAMT",
                     [&](QString const& value) { return toMoney(bookAmount(value), currency); }),
           readValue(values, "LEDGERBAL/DTASOF",
@@ -175,7 +165,7 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
 {
   auto const start = content.left(4);
   if (start.contains('\0') || start.startsWith("\xFF\xFE") || start.startsWith("\xFE\xFF")) {
-    throw BookError(Statement::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
+    throw BookError(BookError::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
   }
   QStringList accountIds;
   QString otherType; // of a statement of the account, for another kind
@@ -196,12 +186,13 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
   }
   auto const ids = accountIds.join(", ");
   throw BookError(
-      ids.isEmpty() ? Statement::tr("The file has no statement of a bank account or a credit card.")
+      accountIds.isEmpty()
+          ? BookError::tr("The file has no statement of a bank account or a credit card.")
       : !statements.isEmpty()
-          ? Statement::tr("The file has statements that differ, of the accounts: %1.").arg(ids)
+          ? BookError::tr("The file has statements that differ, of the accounts: %1.").arg(ids)
       : otherType.isEmpty()
-          ? Statement::tr("The file has no statement of the account '%1', but of: %2.")
+          ? BookError::tr("The file has no statement of the account '%1', but of: %2.")
                 .arg(accountId, ids)
-          : Statement::tr("The account %1 is not of the kind that the statement is for, '%2'.")
-                .arg(presentationText(account, LocaleAware::Yes), otherType));
+          : BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
+                .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
 }

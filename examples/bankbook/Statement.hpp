@@ -4,16 +4,12 @@
 #include <mintar/Money.hpp>
 
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QDate>
 #include <QString>
 
 /// What a bank's statement says of an account.
 struct Statement
 {
-  Q_DECLARE_TR_FUNCTIONS(Statement)
-
-public:
   QString accountId; ///< what the bank calls the account
   QString currency;  ///< of the balance, for instance "CAD"
   mintar::Money balance;

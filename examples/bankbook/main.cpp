@@ -21,12 +21,10 @@
 
 namespace {
 
-enum ExitStatus
-{
-  AllDone,
-  LinesRefused,
-  NotRun
-};
+// Exit statuses.
+constexpr int allDone = 0;
+constexpr int linesRefused = 1;
+constexpr int notRun = 2;
 
 struct Bankbook
 {
@@ -34,13 +32,13 @@ struct Bankbook
 };
 
 // Writes a line to standard error. Returns the status for an end because of it.
-ExitStatus tell(QString const& text)
+int tell(QString const& text)
 {
   QTextStream(stderr) << printable(text) << '\n';
-  return NotRun;
+  return notRun;
 }
 
-ExitStatus notRead(QString const& name)
+int notRead(QString const& name)
 {
   return tell(Bankbook::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
 }
@@ -54,7 +52,7 @@ bool show(QString const& text)
 }
 
 // Returns `status`, or another one where standard output did not take what was shown.
-ExitStatus ended(ExitStatus status)
+int ended(int status)
 {
   return show({}) ? status : tell(Bankbook::tr("Standard output cannot be written."));
 }
@@ -66,12 +64,12 @@ bool setLocale(QCommandLineOption const& option)
   QCommandLineParser parser;
   parser.addOption(option);
   parser.parse(QCoreApplication::arguments());
-  auto const name = parser.value(option);
-  if (parser.isSet(option)) {
-    QLocale::setDefault(QLocale(name)); // C for one that is not known
+  if (!parser.isSet(option)) {
+    return true;
   }
-  return !parser.isSet(option) || QLocale().language() != QLocale::C ||
-         QStringList{"C", "POSIX"}.contains(name.section(u'.', 0, 0));
+  auto const name = parser.value(option);
+  QLocale::setDefault(QLocale(name)); // C for one that is not known
+  return QLocale().language() != QLocale::C || name == u"C" || name == u"POSIX";
 }
 
 // Bankbook's own translation decides on the language of all texts: nobody is to read two at a time.
@@ -115,16 +113,16 @@ bool readLine(std::FILE* file, std::string& line)
 
 // Carries out the lines of `file` one by one; `name` stands before each refusal. At a prompt, what guides
 // a person is kept apart from the results, which may go elsewhere.
-ExitStatus run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
+int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
 {
   Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
-  auto status = AllDone;
+  auto status = allDone;
   std::string line;
   auto const guide = [&](QString const& text) {
     QTextStream(stderr) << (isAtPrompt ? text : QString());
   };
   guide(Bankbook::tr("Type help for the commands, or quit to leave.") + u'\n');
-  for (int number = 1; status == AllDone || !isStrict; ++number) {
+  for (int number = 1; status == allDone || !isStrict; ++number) {
     guide("bankbook> ");
     try {
       if (!readLine(file, line)) {
@@ -142,7 +140,7 @@ ExitStatus run(std::FILE* file, QString const& name, bool isStrict, bool isAtPro
     } catch (std::exception const& refusal) {
       auto const text = QString::fromUtf8(refusal.what());
       tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), text));
-      status = LinesRefused;
+      status = linesRefused;
     }
   }
   return std::ferror(file) != 0 ? notRead(name) : ended(status);
@@ -154,7 +152,6 @@ int main(int argc, char* argv[])
 {
   QCoreApplication const application(argc, argv);
   QCoreApplication::setApplicationName("bankbook");
-  QCoreApplication::setApplicationVersion(BANKBOOK_VERSION);
   qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context,
                             QString const& text) { tell(qFormatLogMessage(type, context, text)); });
 
@@ -186,7 +183,7 @@ int main(int argc, char* argv[])
   }
   if (parser.isSet("help") || parser.isSet("version")) {
     show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
-    return ended(AllDone);
+    return ended(allDone);
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
