@@ -40,7 +40,8 @@ QStringList toWords(QString const& line)
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size(); ++i) {
     auto const c = line[i];
-    if (!inQuotes && (QStringView(u" \t\r\n").contains(c) || (c == u'#' && !inWord))) {
+    auto const isBlank = c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+    if (!inQuotes && (isBlank || (c == u'#' && !inWord))) {
       if (inWord) {
         words += std::exchange(word, {});
         inWord = false;
@@ -98,7 +99,8 @@ QString kindsOfAccount()
 QDate toDate(QString const& word)
 {
   auto const date = QDate::fromString(word, Qt::ISODate);
-  if (!date.isValid() || date.toString(Qt::ISODate) != word) { // Qt takes other separators, too
+  // Qt takes other separators, too, and a time.
+  if (!date.isValid() || word.size() != 10 || !isAll(QString(word).remove(u'-'), u'0', u'9')) {
     throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31.").arg(word));
   }
   return date;

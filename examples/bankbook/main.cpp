@@ -119,7 +119,9 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
   auto status = allDone;
   std::string line;
   auto const guide = [&](QString const& text) {
-    QTextStream(stderr) << (isAtPrompt ? text : QString());
+    if (isAtPrompt) {
+      QTextStream(stderr) << text;
+    }
   };
   guide(Bankbook::tr("Type help for the commands, or quit to leave.") + u'\n');
   for (int number = 1; status == allDone || !isStrict; ++number) {
