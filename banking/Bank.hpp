@@ -12,68 +12,86 @@ class QDebug;
 
 namespace orv::banking {
 
-/// A bank: its name, the ledger account numbers held there with their kinds, and whether it is open.
+/// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
-/// Every bank but a default-constructed or moved-from one has a name, no invalid account number and no
-/// account of the kind `Unknown`. A change that would break a rule throws `BankError`, which names this
-/// bank, and leaves the bank as it was. Each change first writes one info message to Qt's default logging
-/// category, whether it is then refused or not.
+/// A bank has a name, no invalid account number and no account of the kind `Unknown`. Only a
+/// default-constructed bank has no name. A moved-from bank is for assigning to and destroying only.
 ///
-/// A change for which there is no memory throws `std::bad_alloc` and leaves the bank as it was, too;
-/// its message may end early. Qt calls the message handler where an exception ends the program: a
-/// handler must not throw, and with Qt's own, which needs memory for every message, a full memory ends
-/// the program.
+/// A change that would break a rule throws `BankError`, which names this bank. A change that throws
+/// leaves the bank unchanged, also if memory runs out.
+///
+/// Each change is logged before it is checked, so a refused change is logged too. The messages are
+/// info messages of Qt's default category; see [Log messages](docs/log-messages.md). A message
+/// handler must not throw.
+///
+/// Several threads may read the same bank. While one thread changes it, no other may use it.
+///
+/// \snippet snippets.cpp Bank
 class ORV_BANKING_EXPORT Bank
 {
 public:
-  /// An open bank without a name and without accounts; nothing is checked.
+  /// Creates an open bank without a name and without accounts.
   Bank() = default;
 
-  /// Takes the three as they are, a kind that has no name included; logs nothing. Throws `BankError`, the first that applies of
-  /// - "The name of a financial institution cannot be empty.", for an empty bank name;
-  /// - "The bank account number of a financial institution cannot be invalid.";
-  /// - "The bank account type of a financial institution cannot be unknown.".
+  /// Creates a bank from its name, its accounts and its state. Nothing is logged.
   ///
-  /// Linear in the number of accounts.
+  /// A kind that is not one of the enumerators is accepted here; writing or logging the bank then
+  /// throws.
+  ///
+  /// \throws BankError if `name` is empty; the name of the bank in the error is empty
+  /// \throws BankError if an account number is invalid
+  /// \throws BankError if a kind is `Unknown`
+  ///
+  /// Complexity: linear in the number of accounts.
   Bank(BankName name, std::map<accounting::AccountNumber, BankAccountTypes> accounts,
        bool isClosed);
 
-  /// The kind of each account number held here, smallest number first. The reference is valid while
-  /// this bank lives; changes of the bank show in it.
-  std::map<accounting::AccountNumber, BankAccountTypes> const& accounts() const noexcept
+  /// Returns the account numbers with their kinds, the smallest number first.
+  ///
+  /// The reference is valid as long as this bank exists. Later changes show through it.
+  [[nodiscard]] std::map<accounting::AccountNumber, BankAccountTypes> const&
+  accounts() const noexcept
   {
     return accounts_;
   }
 
-  /// True for a closed bank. Its accounts may change all the same.
-  bool isClosed() const noexcept { return isClosed_; }
+  /// Returns whether the bank is closed. A closed bank can still add and remove accounts.
+  [[nodiscard]] bool isClosed() const noexcept { return isClosed_; }
 
-  /// The reference is valid while this bank lives; assigning to the bank changes the name.
-  BankName const& name() const noexcept { return name_; }
+  /// Returns the name.
+  ///
+  /// The reference is valid as long as this bank exists. Later changes show through it.
+  [[nodiscard]] BankName const& name() const noexcept { return name_; }
 
-  /// Logs "Closing" and the name. Throws `BankError` "Cannot close a bank that is already closed.".
+  /// Closes the bank.
+  ///
+  /// \throws BankError if the bank is closed already
   void close();
 
-  /// Logs "Opening" and the name. Throws `BankError` "Cannot open a bank that is already opened.".
+  /// Opens the bank.
+  ///
+  /// \throws BankError if the bank is open already
   void open();
 
-  /// Holds `number` as an account of the kind `type` from now on, in place of the kind that it had, if
-  /// any. A closed bank takes it as well. Logs "Adding account number", the number, "which is", the
-  /// kind, "to", and the name. Throws `BankError`, the first that applies of
-  /// - "Cannot add an account number of a financial institution that is invalid.";
-  /// - "Cannot add an account type of a financial institution that is unknown.";
+  /// Adds an account, or changes its kind if the bank holds the number already.
   ///
-  /// and `std::logic_error` as `BankAccountTypes` says. Logarithmic in the number of accounts.
+  /// \throws std::logic_error if `type` is not one of the enumerators
+  /// \throws BankError if `number` is invalid
+  /// \throws BankError if `type` is `Unknown`
+  ///
+  /// Complexity: logarithmic in the number of accounts.
   void add(accounting::AccountNumber const& number, BankAccountTypes type);
 
-  /// Lets go of `number`; a closed bank does so as well. Logs "Removing account number", the number,
-  /// "from", and the whole bank as it was, which makes the cost linear in the number of accounts.
-  /// Throws `BankError` "The account '%1' is not associated with the financial institution." with the
-  /// number, and `std::logic_error` as `BankAccountTypes` says where a kind held here is none.
+  /// Removes an account.
+  ///
+  /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators
+  /// \throws BankError if the bank does not hold `number`
+  ///
+  /// Complexity: linear in the number of accounts, because the log message shows them all.
   void remove(accounting::AccountNumber const& number);
 
 private:
-  // The bank map alone names banks anew, where it also keeps the names apart.
+  // The bank map alone renames banks: it keeps their names apart.
   friend class BankMap;
 
   std::map<accounting::AccountNumber, BankAccountTypes> accounts_;
@@ -81,17 +99,29 @@ private:
   BankName name_;
 };
 
-/// True when both are open or both are closed, and names and accounts are equal. Linear in the number
-/// of accounts.
+/// Returns whether the states, the names and the accounts with their kinds are equal.
+///
+/// Complexity: linear in the number of accounts.
+/// \relatesalso Bank
 ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
-/// Writes "Bank: (", the name, "), Account Numbers: (", the accounts as number=>kind, separated by
-/// ", ", "), Is Closed: ", true or false, and ")". The stream stays in `std::boolalpha`. Throws
-/// `std::logic_error` as `BankAccountTypes` says, when the text before the kind has been written.
-/// Linear in the number of accounts.
+/// Writes the fields with their labels, in UTF-8.
+///
+/// For example, `Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan,
+/// 200=>Savings), Is Closed: false)`. Kinds are in the user's language. The stream is left in
+/// `std::boolalpha` mode.
+///
+/// \throws std::logic_error if a kind is not one of the enumerators; the text before that kind has
+///         been written
+///
+/// Complexity: linear in the number of accounts.
+/// \relatesalso Bank
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 
-/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
+/// Writes the text of the standard stream to a debug stream, as one `QString`.
+///
+/// \throws std::logic_error if a kind is not one of the enumerators; nothing has been written
+/// \relatesalso Bank
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, Bank const& bank);
 
 } // namespace orv::banking

@@ -13,68 +13,105 @@ class QString;
 
 namespace orv::banking {
 
-/// The kind of an account held at a bank. `Unknown` is no kind: no bank holds an account of it.
+/// \defgroup kinds Kinds of account
+/// The kinds of account that a bank holds, their texts, and their classes in the ledger.
 ///
-/// Every function below throws `std::logic_error`, with a text that is not translated, for a value
-/// that is none of these. Unless its comment says otherwise, that text is "Failed to convert from the
-/// strong value '%1' to the another type for '%2'." with the value as an unsigned number and the
-/// run-time name of this type.
+/// \snippet snippets.cpp BankAccountTypes
+/// @{
+
+/// The kind of an account that a bank holds.
+///
+/// A value outside these enumerators is a mistake of the program: each function that reads the kind
+/// throws `std::logic_error`, with a text in English for the programmer. `Unknown` is not such a
+/// value.
 enum class BankAccountTypes : std::int32_t
 {
-  Unknown = 0,
-  Chequeing = 1,
-  CreditCard = 2,
-  Loan = 3,
-  Savings = 4,
-  Goal = 5,
+  Unknown = 0,    ///< The kind is not known. Neither an asset nor a liability; no bank accepts it.
+  Chequeing = 1,  ///< An account for everyday payments, an asset.
+  CreditCard = 2, ///< What is owed on a credit card, a liability.
+  Loan = 3,       ///< Borrowed money, a liability.
+  Savings = 4,    ///< Money put aside, an asset.
+  Goal = 5,       ///< Money put aside for one purpose, such as a new roof; an asset.
 };
 
-/// True for a chequing, savings or goal account. Throws `std::logic_error` "Unrecognised bank account
-/// type when checking if it's an asset account." for a value that is no kind.
-ORV_BANKING_EXPORT bool isAssetAccount(BankAccountTypes type);
+/// Returns whether the kind is an asset: chequing, savings or goal. False for `Unknown`.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators
+[[nodiscard]] ORV_BANKING_EXPORT bool isAssetAccount(BankAccountTypes type);
 
-/// True for a credit card or a loan. Throws `std::logic_error` "Unrecognised bank account type when
-/// checking if it's a liability account." for a value that is no kind.
-ORV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
+/// Returns whether the kind is a liability: credit card or loan. False for `Unknown`.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators
+[[nodiscard]] ORV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
 
-/// The plain text of the kind, for instance "Credit Card", the same in every locale. It refers to
-/// static text and allocates nothing.
-ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
+/// Returns the plain text of the kind, for example "Credit Card", which is the same in every
+/// locale.
+///
+/// Programs store this text. The string refers to static data; nothing is allocated.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators
+[[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
 
-/// The text of the kind in the user's language.
-ORV_BANKING_EXPORT QString presentationText(BankAccountTypes const& type);
+/// Returns the text of the kind in the user's language.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators
+[[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankAccountTypes const& type);
 
-/// The kind that has this plain text, or else the kind that has it in the user's language, letter for
-/// letter. Throws `std::logic_error` "Failed to convert from the weak value '%1' to another type for
-/// '%2'." with the text and the run-time name of `BankAccountTypes` when there is none.
-ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
+/// Returns the kind that has this text.
+///
+/// The plain texts are compared first, then the texts in the user's language. Both must be equal to
+/// `text` letter for letter: case and spaces matter. "Unknown" returns `Unknown`.
+///
+/// \throws std::logic_error if no kind has this text
+[[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
 
-/// The type of ledger account that the kind is: asset, liability, or 0 for `Unknown`.
-ORV_BANKING_EXPORT accounting::AccountTypes toAccountTypes(BankAccountTypes const& type);
+/// Returns the class of ledger account that the kind belongs to: `Asset`, `Liability`, or zero for
+/// `Unknown`.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators
+[[nodiscard]] ORV_BANKING_EXPORT accounting::AccountTypes
+toAccountTypes(BankAccountTypes const& type);
 
 /// Writes the text of the kind in the user's language, in UTF-8.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators; nothing has been written
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccountTypes const& type);
 
-/// Writes the text that the standard stream gets, as one `QString`, or nothing where that throws.
+/// Writes the text of the standard stream to a debug stream, as one `QString`.
+///
+/// \throws std::logic_error if `type` is not one of the enumerators; nothing has been written
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type);
 
-/// A ledger account number and the kind of bank account that it stands for. Nothing is checked.
+/// @}
+
+/// A ledger account number and the kind of bank account that it stands for.
+///
+/// This is plain data: nothing is checked, and any number goes with any kind.
 struct AccountNumberBankType
 {
-  /// The number in the ledger.
+  /// The number of the account in the ledger.
   accounting::AccountNumber accountNumber;
 
-  /// The kind of account that the bank holds.
+  /// The kind of the account at the bank.
   BankAccountTypes bankAccountType = BankAccountTypes::Unknown;
 };
 
-/// For instance "100 (Credit Card)", arranged as the user's language does, with the kind in that
-/// language or in plain text. Throws as `BankAccountTypes` says.
-ORV_BANKING_EXPORT QString presentationText(AccountNumberBankType const& account,
-                                            foundation::LocaleAware localeAware);
+/// Returns the number and the kind as a user reads them, for example "100 (Credit Card)".
+///
+/// With `LocaleAware::Yes` the kind is in the user's language, with `LocaleAware::No` in plain
+/// text. The arrangement of the two follows the user's language either way.
+///
+/// \throws std::logic_error if the kind is not one of the enumerators
+/// \relatesalso AccountNumberBankType
+[[nodiscard]] ORV_BANKING_EXPORT QString presentationText(AccountNumberBankType const& account,
+                                                          foundation::LocaleAware localeAware);
 
-/// Writes, for instance, "Bank Account Number (100), Bank Account Type (Credit Card)" in UTF-8. Throws
-/// as `BankAccountTypes` says, when the text before the kind has been written.
+/// Writes the fields with their labels, in UTF-8: `Bank Account Number (100), Bank Account Type
+/// (Credit Card)`, with the kind in the user's language.
+///
+/// \throws std::logic_error if the kind is not one of the enumerators; the text before the kind has
+///         been written
+/// \relatesalso AccountNumberBankType
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             AccountNumberBankType const& account);
 

@@ -11,13 +11,28 @@ namespace orv::banking {
 
 class BankName;
 
-/// A broken banking rule. `what()` names the bank and the rule in the user's language, in UTF-8:
-/// "There is an issue with the bank '%1'. %2" with the bank's name and the message.
+/// The error that reports a broken banking rule.
+///
+/// A call that throws it has changed nothing. `what()` names the bank and the rule, in UTF-8. It is
+/// all that can be read from the error.
+///
+/// The text is in the language of the translator that is installed when the error is created, or in
+/// English. French and German come with the library, in `share/orv-banking/translations`: load one
+/// with `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, then install it with
+/// `QCoreApplication::installTranslator()`. Dates in the text are in the form of `QLocale()`.
+///
+/// The page [Refusals](docs/refusals.md) lists every rule with its text.
+///
+/// \snippet snippets.cpp BankError
 class ORV_BANKING_EXPORT BankError : public foundation::Error
 {
 public:
-  /// `bank` is the bank that the rule concerns, empty where the name itself is what is missing;
-  /// `message` is translated and filled; `cause` is the exception that led to this one, if any.
+  /// Creates the error from the bank and what is wrong with it.
+  ///
+  /// \param bank the bank concerned, or the empty name if there is none
+  /// \param message the broken rule in the user's language, with its placeholders filled
+  /// \param cause the exception that led to this error, if any; it is passed on to the foundation
+  ///        library, whose implementation in this project does not keep it
   BankError(BankName const& bank, QString const& message,
             std::exception const& cause = std::exception());
 };

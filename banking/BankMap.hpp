@@ -15,111 +15,173 @@ namespace orv::banking {
 
 /// The registry of all banks, in the order of their names.
 ///
-/// Every bank stands under its own name, no bank holds the invalid account number, and no account
-/// number is held at two banks. A change that would break a rule throws `BankError` and leaves the
-/// registry as it was; the errors of the `Bank` that is changed pass through. The messages are those
-/// in quotes; their placeholders stand for account numbers and bank names. `std::bad_alloc` leaves the
-/// registry as it was, too. A bank that is moved into a call is gone even where the call is refused.
+/// Each bank is registered under its own name, no bank holds the invalid account number, and no two
+/// banks hold the same account number. A change that would break one of these rules throws
+/// `BankError`, which names the bank that the call is about. A change that throws leaves the
+/// registry unchanged, also if memory runs out.
 ///
-/// Below, B is the number of banks, A the number of accounts of one bank and N the number of accounts of
-/// all banks. There is no index of account numbers: what asks for the holder of a number visits the
-/// banks.
+/// `open`, `close`, and adding and removing an account number are passed on to the bank, which logs
+/// them and applies its own rules. Nothing else is logged, and no change that the registry itself
+/// refuses.
+///
+/// The registry does not check that a bank has a name: `add(Bank())` registers a bank under the
+/// empty name, and so does adding the same bank with `std::move` twice. A bank passed with
+/// `std::move` is moved from even if the call throws.
+///
+/// Several threads may read the same registry. While one thread changes it, no other may use it.
+///
+/// The complexities below use three letters: B is the number of banks, A the number of accounts of
+/// the bank that has most, and N the number of accounts of all banks. There is no index from
+/// account numbers to banks: to find who holds a number, the registry asks bank after bank.
+///
+/// \snippet snippets.cpp BankMap
 class ORV_BANKING_EXPORT BankMap
 {
 public:
-  /// A registry without banks.
+  /// Creates a registry without banks.
   BankMap() = default;
 
-  /// Takes the banks. Throws `BankError` for the first broken rule, bank by bank in name order and,
-  /// within a bank, the key first, then number by number:
-  /// - "The key name does not match the value name, %1.", for the key, with the name of the bank;
-  /// - "A default account cannot be associated with a bank.", for the bank that holds the invalid
-  ///   number;
-  /// - "The account '%1' is associated with the bank '%2' and cannot be used again.", for the first
-  ///   holder of the number, with the next holder.
+  /// Creates a registry of these banks, closed ones included.
   ///
-  /// O(B + N), with two temporary lists of the N numbers.
+  /// Fill a registry this way: adding its banks one by one takes O(B) times as long. The banks are
+  /// checked in name order, each in the order of the lines below.
+  ///
+  /// \throws BankError if the key of a bank is not its name; the error names the key
+  /// \throws BankError if a bank holds the invalid number, which no bank accepts by itself
+  /// \throws BankError if later banks hold one of its numbers too; the error tells the smallest
+  ///         such number and the next bank that holds it
+  ///
+  /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
 
-  /// Iterates over the banks, each a pair of its name and itself.
+  /// An iterator over the banks, which are pairs of a name and a bank.
   using const_iterator = std::map<BankName, Bank>::const_iterator;
 
-  /// The first bank in name order. The iterator is valid until its bank is removed or renamed or the
-  /// registry is destroyed.
+  /// Returns an iterator to the first bank in name order.
+  ///
+  /// With `end` it serves loops over all banks: `for (auto const& [name, bank] : banks)`.
+  ///
+  /// An iterator is valid until its bank is removed or renamed, or the registry is assigned to,
+  /// moved from or destroyed. Other changes of the bank show through it, `update` included.
   [[nodiscard]] const_iterator begin() const noexcept { return banks_.begin(); }
 
-  /// The end of the banks.
+  /// Returns the iterator behind the last bank.
   [[nodiscard]] const_iterator end() const noexcept { return banks_.end(); }
 
-  /// O(log B).
-  bool hasBank(BankName const& name) const noexcept;
+  /// Returns whether a bank of this name is registered. Letter case matters.
+  ///
+  /// Complexity: O(log B).
+  [[nodiscard]] bool hasBank(BankName const& name) const noexcept;
 
-  /// A copy of the bank that holds `number`, if any. O(B log A), and the copy.
-  std::optional<Bank> find(accounting::AccountNumber const& number) const;
+  /// Returns a copy of the bank that holds the account number, or nothing.
+  ///
+  /// Complexity: O(B log A), and the copy.
+  [[nodiscard]] std::optional<Bank> find(accounting::AccountNumber const& number) const;
 
-  /// The names of all banks. O(B).
-  std::set<BankName> names() const;
+  /// Returns the names of all banks.
+  ///
+  /// Complexity: O(B).
+  [[nodiscard]] std::set<BankName> names() const;
 
-  /// The bank of that name. The reference is valid until that bank is removed or renamed or the
-  /// registry is destroyed; changes of the bank, `update` included, show in it. Throws `BankError`
-  /// "Failed to locate a bank by that name.", with the failure of the lookup as its cause. O(log B).
-  Bank const& bank(BankName const& name) const;
+  /// Returns the bank of this name.
+  ///
+  /// \throws BankError if there is no such bank
+  ///
+  /// The reference is valid until the bank is removed or renamed, or the registry is assigned to,
+  /// moved from or destroyed. Other changes of the bank show through it, `update` included.
+  ///
+  /// Complexity: O(log B).
+  [[nodiscard]] Bank const& bank(BankName const& name) const;
 
-  /// Closes the bank. Throws `BankError` "Cannot close a bank that does not exist." and as
-  /// `Bank::close` does. O(log B).
+  /// Closes the bank of this name.
+  ///
+  /// \throws BankError if there is no such bank
+  /// \throws BankError if the bank is closed already
+  ///
+  /// Complexity: O(log B).
   void close(BankName const& name);
 
-  /// Opens the bank. Throws `BankError` "Cannot open a bank that does not exist." and as `Bank::open`
-  /// does. O(log B).
+  /// Opens the bank of this name.
+  ///
+  /// \throws BankError if there is no such bank
+  /// \throws BankError if the bank is open already
+  ///
+  /// Complexity: O(log B).
   void open(BankName const& name);
 
-  /// Adds an account number to the bank, or changes its kind where the bank holds it already. Throws
-  /// `BankError`, the first that applies of
-  /// - "Cannot add the account number, %1, as the bank that does not exist.";
-  /// - "Cannot add the account number, %1, as the bank '%2' is already associated with that number.";
+  /// Adds an account to the bank of this name, or changes its kind if the bank holds the number
+  /// already.
   ///
-  /// and as `Bank::add` does. O(B log A).
+  /// The bank may be closed.
+  ///
+  /// \throws BankError if there is no such bank
+  /// \throws BankError if another bank holds `number`; the error tells which
+  /// \throws std::logic_error if `type` is not one of the enumerators
+  /// \throws BankError if `number` is invalid
+  /// \throws BankError if `type` is `Unknown`
+  ///
+  /// Complexity: O(B log A).
   void add(BankName const& name, accounting::AccountNumber const& number, BankAccountTypes type);
 
-  /// Removes an account number from the bank. Throws `BankError` "Cannot remove the account number,
-  /// %1, as the bank that does not exist." and as `Bank::remove` does. O(log B + A).
+  /// Removes an account from the bank of this name.
+  ///
+  /// The bank may be closed.
+  ///
+  /// \throws BankError if there is no such bank
+  /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators
+  /// \throws BankError if the bank does not hold `number`
+  ///
+  /// Complexity: O(log B + A).
   void remove(BankName const& name, accounting::AccountNumber const& number);
 
-  /// Adds a bank under its name. Throws `BankError`, the first that applies of
-  /// - "Cannot add a bank that is already closed.";
-  /// - "Cannot add a bank that already exists.";
-  /// - "The account '%1' is already associated with the bank '%2' and cannot be added again.", with
-  ///   the first bank that shares a number and the smallest number that it shares.
+  /// Adds a bank under its name.
   ///
-  /// O(B a log A) with a and A the accounts of whichever bank of a pair has fewer and more. So to build
-  /// a registry bank by bank costs O(B) times as much as to construct it from all banks at once.
+  /// \throws BankError if the bank is closed
+  /// \throws BankError if a bank of its name is registered already
+  /// \throws BankError if a registered bank holds one of its account numbers; the error tells the
+  ///         first such bank and the smallest number that the two share
+  ///
+  /// Complexity: O(B a log A), where a is the number of accounts of `bank`.
   void add(Bank bank);
 
-  /// Removes the bank and with it all its account numbers. Throws `BankError` "Cannot remove a bank
-  /// that does not exist.". O(log B + A).
+  /// Removes the bank of this name with all its accounts. The bank may be closed.
+  ///
+  /// \throws BankError if there is no such bank
+  ///
+  /// Complexity: O(log B + A).
   void remove(BankName const& name);
 
-  /// Gives the bank `from` the name `to`; its accounts stay. Throws `BankError` for the bank `from`,
-  /// the first that applies of
-  /// - "Cannot rename to '%1' when the bank does not exist.";
-  /// - "Cannot rename to '%1' as it already exists.";
-  /// - "Cannot rename to an empty bank name.";
-  /// - "Cannot rename a bank when it is closed.".
+  /// Renames a bank. Its accounts stay the same.
   ///
-  /// Both names may refer into the registry. O(log B), however many accounts there are.
+  /// Either name may be a reference into the registry. A `ReconciledBankAccount` keeps the name
+  /// that it was created with.
+  ///
+  /// \throws BankError if there is no bank of the name `from`
+  /// \throws BankError if there is a bank of the name `to`
+  /// \throws BankError if `to` is empty
+  /// \throws BankError if the bank is closed
+  ///
+  /// All these errors name the bank `from`.
+  ///
+  /// Complexity: O(log B), however many accounts there are.
   void rename(BankName const& from, BankName const& to);
 
-  /// Replaces the bank of the same name. Throws `BankError`, the first that applies of
-  /// - "Cannot update a bank that does not exist.";
-  /// - "Cannot update to a closed bank.";
-  /// - "Cannot update a bank that is closed.";
-  /// - "Cannot update the account number, %1, as the bank '%2' is already associated with that
-  ///   number.", with the smallest such number.
+  /// Replaces the registered bank of the same name.
   ///
-  /// O(B a log A) with a and A as for `add`.
+  /// Other banks may then hold the account numbers that `bank` no longer has.
+  ///
+  /// \throws BankError if no bank of its name is registered
+  /// \throws BankError if `bank` is closed
+  /// \throws BankError if the registered bank is closed
+  /// \throws BankError if another bank holds one of its account numbers; the error tells the
+  ///         smallest such number and the bank that holds it
+  ///
+  /// Complexity: O(B a log A), where a is the number of accounts of `bank`.
   void update(Bank bank);
 
-  /// Equal when the banks are. O(B + N).
+  /// Returns whether both registries hold equal banks.
+  ///
+  /// Complexity: O(B + N).
   friend bool operator==(BankMap const& lhs, BankMap const& rhs)
   {
     return lhs.banks_ == rhs.banks_;
@@ -132,8 +194,17 @@ private:
   std::map<BankName, Bank> banks_;
 };
 
-/// Writes "Bank Map (", the banks as name=>bank, separated by ", ", and ")". The stream stays in
-/// `std::boolalpha` where there are banks. Throws as the operator of `Bank` does. O(B + N).
+/// Writes the names and banks, in UTF-8.
+///
+/// For example, `Bank Map (Financial Institution Name: (Elm)=>Bank: (Financial Institution Name:
+/// (Elm)), Account Numbers: (), Is Closed: false))`. A comma and a space separate the banks. If
+/// there are banks, the stream is left in `std::boolalpha` mode.
+///
+/// \throws std::logic_error if a kind is not one of the enumerators; the text before that kind has
+///         been written
+///
+/// Complexity: O(B + N).
+/// \relatesalso BankMap
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankMap const& banks);
 
 } // namespace orv::banking

@@ -10,17 +10,24 @@ class QDebug;
 namespace orv::banking {
 
 /// A balance and the date on which it occurred.
+///
+/// This is plain data: nothing is checked.
+///
+/// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
 {
-  /// The amount.
+  /// The amount of money.
   mintar::Money balance;
 
-  /// The date.
+  /// The date on which the account had this balance.
   QDate occurredOn;
 };
 
-/// Writes "Balance (", the balance, "), Occurred On (", the date and ")", each as `QDebug` writes it:
-/// in space mode a space follows each of the five.
+/// Writes the balance and the date to a debug stream: `Balance (…), Occurred On (…)`.
+///
+/// The five parts are written one by one, so the stream puts a space after each unless told
+/// `nospace()`. The amount and the date are as `QDebug` writes them.
+/// \relatesalso ReconciledBalance
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& balance);
 
 } // namespace orv::banking

@@ -4,7 +4,6 @@
 # that the prefix can be moved.
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
-include(GNUInstallDirs)
 
 # orv_shared_library(<package>
 #   DESCRIPTION <text>               in one line
@@ -60,6 +59,9 @@ function(orv_shared_library package)
     endif()
   endwhile()
   list(JOIN pc_requires ", " pc_requires)
+  if(NOT ORV_BANKING_INSTALL)
+    return()
+  endif()
 
   set(prefix "${CMAKE_INSTALL_PREFIX}")
   file(RELATIVE_PATH libdir "${prefix}" "${CMAKE_INSTALL_FULL_LIBDIR}")

@@ -116,7 +116,7 @@ TEST(Terminal, ObeysNothingThatABookSays)
 {
   Book book;
   EXPECT_THAT(listed(book, {"bank \"\u001b[2J\u202e\u2028é\u0301\" 1=Goal"}),
-              HasSubstr("\n------------------------  -----  -------  ----  -----  -------  "
+              HasSubstr("\n--------------------------  -----  -------  ----  -----  -------  "
                         "----------\n\\u{1B}[2J\\u{202E}\\u{2028}é\u0301  open         1"));
   EXPECT_EQ(book.execute("find 1"), "\\u{1B}[2J\\u{202E}\\u{2028}é\u0301: 1 (Goal)\n");
   EXPECT_THAT(book.execute("print").toStdString(), HasSubstr("(\\u{1B}[2J\\u{202E}\\u{2028}é"));

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>The bank account number of a financial institution cannot be invalid.</source>
-        <translation>Die Nummer eines Kontos bei einem Finanzinstitut darf nicht ungültig sein.</translation>
+        <translation>Die Nummer eines Kontos bei einem Finanzinstitut muss gültig sein.</translation>
     </message>
     <message>
         <source>The bank account type of a financial institution cannot be unknown.</source>
@@ -17,11 +17,11 @@
     </message>
     <message>
         <source>Cannot close a bank that is already closed.</source>
-        <translation>Eine bereits geschlossene Bank kann nicht geschlossen werden.</translation>
+        <translation>Eine bereits geschlossene Bank kann nicht noch einmal geschlossen werden.</translation>
     </message>
     <message>
         <source>Cannot open a bank that is already opened.</source>
-        <translation>Eine bereits geöffnete Bank kann nicht geöffnet werden.</translation>
+        <translation>Eine bereits geöffnete Bank kann nicht noch einmal geöffnet werden.</translation>
     </message>
     <message>
         <source>Cannot add an account number of a financial institution that is invalid.</source>
@@ -69,11 +69,11 @@
     </message>
     <message>
         <source>The key name does not match the value name, %1.</source>
-        <translation>Der Name des Schlüssels stimmt nicht mit dem des Wertes, %1, überein.</translation>
+        <translation>Der Name des Schlüssels stimmt nicht mit dem des Wertes, „%1“, überein.</translation>
     </message>
     <message>
         <source>A default account cannot be associated with a bank.</source>
-        <translation>Ein Standardkonto kann keiner Bank zugeordnet werden.</translation>
+        <translation>Ein Konto ohne gültige Nummer kann keiner Bank zugeordnet werden.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; is associated with the bank &apos;%2&apos; and cannot be used again.</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Cannot add a bank that already exists.</source>
-        <translation>Eine bereits vorhandene Bank kann nicht hinzugefügt werden.</translation>
+        <translation>Eine bereits vorhandene Bank kann nicht noch einmal hinzugefügt werden.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; is already associated with the bank &apos;%2&apos; and cannot be added again.</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Cannot rename to an empty bank name.</source>
-        <translation>Eine Bank kann nicht in einen leeren Namen umbenannt werden.</translation>
+        <translation>Eine Bank kann keinen leeren Namen erhalten.</translation>
     </message>
     <message>
         <source>Cannot rename a bank when it is closed.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Cannot update to a closed bank.</source>
-        <translation>Eine Bank kann nicht mit einer geschlossenen Bank aktualisiert werden.</translation>
+        <translation>Eine Bank kann durch eine Aktualisierung nicht geschlossen werden.</translation>
     </message>
     <message>
         <source>Cannot update a bank that is closed.</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Cannot update the account number, %1, as the bank &apos;%2&apos; is already associated with that number.</source>
-        <translation>Die Kontonummer %1 kann nicht aktualisiert werden, da sie bereits der Bank „%2“ zugeordnet ist.</translation>
+        <translation>Die Kontonummer %1 kann nicht übernommen werden, da sie bereits der Bank „%2“ zugeordnet ist.</translation>
     </message>
     <message>
         <source>The last reconciled date, %1, cannot be updated to be in the past, %2.</source>

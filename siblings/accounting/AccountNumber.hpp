@@ -9,49 +9,56 @@ class QString;
 
 namespace orv::accounting {
 
-/// The number of a ledger account. Numbers compare and order by their integer.
+/// The number of an account in the ledger, which is the program's own, not the bank's.
+///
+/// Numbers are equal if their integers are equal, and are ordered by their integers.
 class ORV_ACCOUNTING_EXPORT AccountNumber
 {
 public:
-  /// The integer of the number that no account has.
+  /// The integer of the invalid number, which no account has.
   static constexpr unsigned int invalid_ = 0;
 
-  /// The invalid number.
+  /// Creates the invalid number.
   AccountNumber() noexcept = default;
 
-  /// The number of that integer; `invalid_` gives the invalid number.
+  /// Creates the number with this integer; `invalid_` makes the invalid number.
   explicit AccountNumber(unsigned int integer) noexcept : integer_(integer) {}
 
-  /// The integer that the number is.
-  unsigned int integer() const noexcept { return integer_; }
+  /// Returns the number as an integer.
+  [[nodiscard]] unsigned int integer() const noexcept { return integer_; }
 
-  /// True when the number is of that integer.
+  /// Returns whether the number has this integer, for example `number == AccountNumber::invalid_`.
   bool operator==(unsigned int const& integer) const noexcept { return integer_ == integer; }
 
 private:
   unsigned int integer_ = invalid_;
 };
 
-/// Equal when the integers are.
+/// Returns whether both integers are equal.
+/// \relatesalso AccountNumber
 inline bool operator==(AccountNumber const& lhs, AccountNumber const& rhs) noexcept
 {
   return lhs.integer() == rhs.integer();
 }
 
-/// The order of the integers.
+/// Returns whether the integer of `lhs` is smaller.
+/// \relatesalso AccountNumber
 inline bool operator<(AccountNumber const& lhs, AccountNumber const& rhs) noexcept
 {
   return lhs.integer() < rhs.integer();
 }
 
-/// The decimal digits of the number, the same in every locale: a number identifies, it does not
-/// count.
-ORV_ACCOUNTING_EXPORT QString presentationText(AccountNumber const& number);
+/// Returns the decimal digits of the number, the same in every locale: a number identifies, it does
+/// not count.
+/// \relatesalso AccountNumber
+[[nodiscard]] ORV_ACCOUNTING_EXPORT QString presentationText(AccountNumber const& number);
 
-/// Writes the decimal digits of the number, whatever the stream's number format is.
+/// Writes the decimal digits of the number, whatever the number format of the stream.
+/// \relatesalso AccountNumber
 ORV_ACCOUNTING_EXPORT std::ostream& operator<<(std::ostream& stream, AccountNumber const& number);
 
-/// Writes the decimal digits of the number, unquoted.
+/// Writes the decimal digits of the number to a debug stream, without quotes.
+/// \relatesalso AccountNumber
 ORV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, AccountNumber const& number);
 
 } // namespace orv::accounting

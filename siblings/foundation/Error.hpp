@@ -9,12 +9,14 @@
 
 namespace orv::foundation {
 
-/// The base of the errors that the family's libraries throw.
+/// The base class of the errors that the family's libraries throw.
 class ORV_FOUNDATION_EXPORT Error : public std::runtime_error
 {
 public:
-  /// `what()` gives `message` in UTF-8. The cause tells the thrower's reason for the error apart from
-  /// its message; this implementation does not keep it.
+  /// Creates an error whose `what()` returns `message` in UTF-8.
+  ///
+  /// \param message what is wrong, as a user reads it
+  /// \param cause the exception that led to this error; this implementation does not keep it
   Error(QString const& message, std::exception const& cause);
 
 private:

@@ -4,11 +4,11 @@
 
 namespace orv::foundation {
 
-/// Whether a text is wanted in the user's language or in the program's own.
+/// The choice between a text in the user's language and a plain text.
 enum class LocaleAware : std::uint8_t
 {
-  No = 0,
-  Yes = 1,
+  No = 0,  ///< Plain text, the same in every locale.
+  Yes = 1, ///< Text in the user's language.
 };
 
 } // namespace orv::foundation

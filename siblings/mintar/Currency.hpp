@@ -9,21 +9,22 @@
 
 namespace mintar {
 
-/// A currency, known by its ISO 4217 code. Currencies are equal when their codes are.
+/// A currency, known by its ISO 4217 code.
 class MINTAR_EXPORT Currency
 {
 public:
-  /// Takes the code as it is, for instance "CAD"; the code is not looked up anywhere.
+  /// Creates the currency with this code, for example "CAD". The code is not checked.
   explicit Currency(QString isoCode) noexcept : isoCode_(std::move(isoCode)) {}
 
-  /// The code as it was given. The reference is valid while this currency lives and is not assigned
-  /// to.
-  QString const& isoCode() const noexcept { return isoCode_; }
+  /// Returns the code, exactly as it was given.
+  ///
+  /// The reference is valid as long as this currency exists. Later assignments show through it.
+  [[nodiscard]] QString const& isoCode() const noexcept { return isoCode_; }
 
-  /// How many decimals an amount in this currency has: 0 for JPY, 3 for KWD, 2 for most.
-  int decimals() const noexcept;
+  /// Returns how many decimals an amount in this currency has: 0 for JPY, 3 for KWD, 2 for most.
+  [[nodiscard]] int decimals() const noexcept;
 
-  /// Equal when the codes are.
+  /// Returns whether both codes are equal. Letter case matters.
   friend bool operator==(Currency const& lhs, Currency const& rhs) noexcept
   {
     return lhs.isoCode_ == rhs.isoCode_;

@@ -12,37 +12,40 @@ class QDebug;
 
 namespace mintar {
 
-/// An exact amount of money: a whole number of its currency's minor units, never floating point.
+/// An exact amount of money: a whole number of minor units of a currency, such as cents.
 class MINTAR_EXPORT Money
 {
 public:
-  /// No amount and no currency.
+  /// Creates a value without an amount and a currency.
   Money() noexcept;
 
-  /// Zero in the given currency.
+  /// Creates the amount zero in this currency.
   explicit Money(Currency const& currency) noexcept;
 
-  /// For instance 1250 of CAD for twelve dollars and fifty cents.
+  /// Creates an amount from minor units: 1250 of CAD is twelve dollars and fifty cents.
   Money(Currency const& currency, qint64 minorUnits) noexcept;
 
-  /// The whole value.
-  /// @{
+  /// Copies the amount and the currency.
   Money(Money const& other) noexcept = default;
+
+  /// Moves the amount and the currency.
   Money(Money&& other) noexcept = default;
-  /// @}
+
   ~Money() = default;
 
-  /// Replaces the amount, and the currency where there was none yet. Throws `std::invalid_argument`
-  /// when `other` is in another currency or in none, with nothing changed.
+  /// Replaces the amount. A value without a currency also takes the currency of `other`.
+  ///
+  /// \throws std::invalid_argument if this value has a currency and `other` has another one or
+  ///         none; this value is unchanged
   Money& operator=(Money const& other);
 
-  /// Replaces the whole value, whatever the currencies are.
-  /// @{
+  /// Replaces the amount and the currency, whatever they were.
   Money& assign(Money const& other) noexcept;
-  Money& assign(Money&& other) noexcept;
-  /// @}
 
-  /// Equal when amount and currency are.
+  /// Replaces the amount and the currency, whatever they were, and moves from `other`.
+  Money& assign(Money&& other) noexcept;
+
+  /// Returns whether amounts and currencies are equal.
   friend bool operator==(Money const& lhs, Money const& rhs) noexcept
   {
     return lhs.minorUnits_ == rhs.minorUnits_ && lhs.currency_ == rhs.currency_;
@@ -55,14 +58,16 @@ private:
   qint64 minorUnits_ = 0;
 };
 
-/// Writes the amount as the user's locale (`QLocale()`) shows money, in UTF-8: with the locale's own
-/// currency symbol where the currency is the locale's own, with the ISO 4217 code elsewhere. Writes
-/// nothing for a value without a currency.
+/// Writes the amount as the user's locale, `QLocale()`, shows money, in UTF-8.
+///
+/// The locale's own currency has its symbol, every other currency its ISO 4217 code. A value
+/// without a currency writes nothing.
 MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money);
 
 } // namespace mintar
 
 Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
-/// Writes the text that the standard stream gets, as one `QString`.
+/// Writes the text of the standard stream to a debug stream, as one `QString`.
+/// \relatesalso mintar::Money
 MINTAR_EXPORT QDebug operator<<(QDebug debug, mintar::Money const& money);

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="fr_CA">
+<TS version="2.1" language="fr">
 <context>
     <name>QObject</name>
     <message>
@@ -69,11 +69,11 @@
     </message>
     <message>
         <source>The key name does not match the value name, %1.</source>
-        <translation>Le nom de la clé ne correspond pas à celui de la valeur, %1.</translation>
+        <translation>Le nom de la clé ne correspond pas à celui de la valeur, «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>A default account cannot be associated with a bank.</source>
-        <translation>Un compte par défaut ne peut pas être associé à une banque.</translation>
+        <translation>Un compte sans numéro valide ne peut pas être associé à une banque.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; is associated with the bank &apos;%2&apos; and cannot be used again.</source>
@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>Cannot rename to &apos;%1&apos; as it already exists.</source>
-        <translation>Impossible de donner le nom «&#xa0;%1&#xa0;» à la banque, car il existe déjà.</translation>
+        <translation>Impossible de donner le nom «&#xa0;%1&#xa0;» à la banque, car il est déjà utilisé.</translation>
     </message>
     <message>
         <source>Cannot rename to an empty bank name.</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Cannot update to a closed bank.</source>
-        <translation>Impossible de mettre à jour une banque avec une banque fermée.</translation>
+        <translation>Impossible de fermer une banque en la mettant à jour.</translation>
     </message>
     <message>
         <source>Cannot update a bank that is closed.</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Cannot update the account number, %1, as the bank &apos;%2&apos; is already associated with that number.</source>
-        <translation>Impossible de mettre à jour le numéro de compte %1, car la banque «&#xa0;%2&#xa0;» est déjà associée à ce numéro.</translation>
+        <translation>La mise à jour ne peut pas inclure le numéro de compte %1, car la banque «&#xa0;%2&#xa0;» est déjà associée à ce numéro.</translation>
     </message>
     <message>
         <source>The last reconciled date, %1, cannot be updated to be in the past, %2.</source>
