@@ -8,14 +8,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Show texts and amounts as in this locale.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do not tell of each change of a bank.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Stop at the first line that is refused.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -32,10 +24,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The book; standard input where it is left out or -.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Only one book can be read at a time.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -47,17 +35,37 @@
         <source>Standard output cannot be written.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Book</name>
-    <message>
-        <source>The account number %1 is given twice.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No bank holds the account number %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>NAME NUMBER KIND</source>
         <translation type="unfinished"></translation>
@@ -84,14 +92,6 @@
     </message>
     <message>
         <source>FROM TO</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The command is written: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -139,19 +139,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The balance of the account number %1 is not kept in %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Name one account; &apos;%1&apos; has statements of: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>NUMBER FILE [ACCOUNTID]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -160,7 +148,35 @@
     </message>
 </context>
 <context>
-    <name>BookReader</name>
+    <name>BookError</name>
+    <message>
+        <source>The account number %1 is given twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command is written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is not kept in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line contains a NUL character.</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>The line is not UTF-8 text.</source>
         <translation type="unfinished"></translation>
@@ -171,6 +187,10 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not an account number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -185,31 +205,44 @@
         <source>&apos;%1&apos; is not an amount of %2.</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>Statement</name>
+    <message>
+        <source>The file is not an OFX file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is several OFX files in one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is cut short or damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement has no %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is too large for a statement.</source>
+        <source>The file has no statement of a bank account or a credit card.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not a whole OFX file.</source>
+        <source>The file has statements that differ, of the accounts: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; has no statement that libofx reads without errors.</source>
+        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>bankbook was built without libofx, which reads statements.</source>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -8,14 +8,6 @@
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>Show texts and amounts as in this locale.</source>
-        <translation>Zeigt Texte und Beträge in der Sprache und Schreibweise dieses Gebietsschemas an.</translation>
-    </message>
-    <message>
-        <source>Do not tell of each change of a bank.</source>
-        <translation>Meldet nicht jede Änderung einer Bank.</translation>
-    </message>
-    <message>
         <source>Stop at the first line that is refused.</source>
         <translation>Hält bei der ersten abgelehnten Zeile an.</translation>
     </message>
@@ -32,10 +24,6 @@
         <translation>DATEI</translation>
     </message>
     <message>
-        <source>The book; standard input where it is left out or -.</source>
-        <translation>Das Haushaltsbuch; die Standardeingabe, wenn es fehlt oder - ist.</translation>
-    </message>
-    <message>
         <source>Only one book can be read at a time.</source>
         <translation>Es kann nur ein Haushaltsbuch auf einmal gelesen werden.</translation>
     </message>
@@ -45,19 +33,39 @@
     </message>
     <message>
         <source>Standard output cannot be written.</source>
-        <translation>Die Standardausgabe lässt sich nicht schreiben.</translation>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation>Die Zeile ist länger als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation>help zeigt die Befehle an, quit beendet das Programm.</translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation>Zeigt Texte, Beträge und Daten wie in diesem Gebietsschema an.</translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation>Unterdrückt die Meldungen über Änderungen an Banken.</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation>Meldet Änderungen an Banken, auch bei interaktiver Eingabe.</translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation>Das Haushaltsbuch; ohne Angabe oder bei - die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation>Das Gebietsschema „%1“ gibt es nicht.</translation>
     </message>
 </context>
 <context>
     <name>Book</name>
-    <message>
-        <source>The account number %1 is given twice.</source>
-        <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
-    </message>
-    <message>
-        <source>No bank holds the account number %1.</source>
-        <translation>Keine Bank führt die Kontonummer %1.</translation>
-    </message>
     <message>
         <source>NAME NUMBER KIND</source>
         <translation>NAME NUMMER ART</translation>
@@ -85,14 +93,6 @@
     <message>
         <source>FROM TO</source>
         <translation>ALT NEU</translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;.</source>
-        <translation>Den Befehl „%1“ gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>The command is written: %1</source>
-        <translation>Der Befehl lautet: %1</translation>
     </message>
     <message>
         <source>Bank</source>
@@ -128,39 +128,55 @@
     </message>
     <message>
         <source>open</source>
-        <translation>geöffnet</translation>
+        <translation>offen</translation>
     </message>
     <message>
         <source>asset</source>
-        <translation>Aktiva</translation>
+        <translation>Vermögen</translation>
     </message>
     <message>
         <source>liability</source>
-        <translation>Passiva</translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is not kept in %2.</source>
-        <translation>Der Saldo des Kontos mit der Nummer %1 wird nicht in %2 geführt.</translation>
-    </message>
-    <message>
-        <source>Name one account; &apos;%1&apos; has statements of: %2.</source>
-        <translation>Ein Konto ist anzugeben; „%1“ hat Auszüge von: %2.</translation>
+        <translation>Schulden</translation>
     </message>
     <message>
         <source>NUMBER FILE [ACCOUNTID]</source>
         <translation>NUMMER DATEI [KONTOKENNUNG]</translation>
     </message>
     <message>
-        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
-        <translation>Das Konto %1 ist nicht von der Art, für die der Auszug ist, „%2“.</translation>
-    </message>
-    <message>
         <source>KIND is one of: %1.</source>
-        <translation>ART ist eine von: %1.</translation>
+        <translation>Mögliche Werte für ART: %1.</translation>
     </message>
 </context>
 <context>
-    <name>BookReader</name>
+    <name>BookError</name>
+    <message>
+        <source>The account number %1 is given twice.</source>
+        <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1.</source>
+        <translation>Keine Bank führt ein Konto mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;.</source>
+        <translation>Den Befehl „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1</source>
+        <translation>Der Befehl lautet: %1</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation>Die Datei „%1“ fehlt oder ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is not kept in %2.</source>
+        <translation>Der Saldo des Kontos mit der Nummer %1 wird nicht in %2 geführt.</translation>
+    </message>
+    <message>
+        <source>The line contains a NUL character.</source>
+        <translation>Die Zeile enthält ein NUL-Zeichen.</translation>
+    </message>
     <message>
         <source>The line is not UTF-8 text.</source>
         <translation>Die Zeile ist kein UTF-8-Text.</translation>
@@ -174,6 +190,10 @@
         <translation>„%1“ ist keine Kontonummer.</translation>
     </message>
     <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
+        <translation>„%1“ ist keine Kontoart; die Kontoarten sind: %2.</translation>
+    </message>
+    <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation>„%1“ ist kein Datum der Form 2026-01-31.</translation>
     </message>
@@ -183,34 +203,47 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount of %2.</source>
-        <translation>„%1“ ist kein Betrag in %2.</translation>
+        <translation>„%1“ ist kein Betrag in %2 (Dezimaltrennzeichen: Punkt).</translation>
     </message>
-</context>
-<context>
-    <name>Statement</name>
+    <message>
+        <source>The file is not an OFX file.</source>
+        <translation>Die Datei ist keine OFX-Datei.</translation>
+    </message>
+    <message>
+        <source>The file is several OFX files in one.</source>
+        <translation>Die Datei besteht aus mehreren OFX-Dateien.</translation>
+    </message>
+    <message>
+        <source>The file is cut short or damaged.</source>
+        <translation>Die Datei ist abgeschnitten oder beschädigt.</translation>
+    </message>
+    <message>
+        <source>The statement has no %1.</source>
+        <translation>Im Auszug fehlt das Feld %1.</translation>
+    </message>
     <message>
         <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation>%1 „%2“ des Auszugs kann nicht gelesen werden.</translation>
+        <translation>Das Feld %1 des Auszugs ist unlesbar: „%2“.</translation>
     </message>
     <message>
-        <source>There is no file &apos;%1&apos; that can be read.</source>
-        <translation>Es gibt keine lesbare Datei „%1“.</translation>
+        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
+        <translation>Die Datei ist in UTF-16 oder UTF-32 kodiert, was nicht gelesen werden kann.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is too large for a statement.</source>
-        <translation>Die Datei „%1“ ist zu groß für einen Auszug.</translation>
+        <source>The file has no statement of a bank account or a credit card.</source>
+        <translation>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not a whole OFX file.</source>
-        <translation>Die Datei „%1“ ist keine vollständige OFX-Datei.</translation>
+        <source>The file has statements that differ, of the accounts: %1.</source>
+        <translation>Die Datei enthält verschiedene Auszüge, und zwar der Konten: %1.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; has no statement that libofx reads without errors.</source>
-        <translation>Die Datei „%1“ enthält keinen Auszug, den libofx ohne Fehler liest.</translation>
+        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
+        <translation>Die Datei enthält keinen Auszug des Kontos „%1“, sondern von: %2.</translation>
     </message>
     <message>
-        <source>bankbook was built without libofx, which reads statements.</source>
-        <translation>bankbook wurde ohne libofx gebaut, das Auszüge liest.</translation>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation>Das Konto %1 hat nicht die Art, für die der Auszug gilt: „%2“.</translation>
     </message>
 </context>
 </TS>

@@ -1,33 +1,23 @@
 #include "Book.hpp"
 
-#include "BookError.hpp"
 #include "BookReader.hpp"
-#include "Statement.hpp"
-#include "Table.hpp"
+#include "Terminal.hpp"
 
-#include <accounting/AccountNumber.hpp>
-#include <banking/Bank.hpp>
-#include <banking/BankAccount.hpp>
-#include <banking/BankAccountTypes.hpp>
+#include <banking/ReconciledBankAccount.hpp>
 #include <foundation/Date.hpp>
-#include <foundation/LocaleAware.hpp>
+
+#include <QFile>
+#include <QFileInfo>
 
 #include <limits>
 #include <sstream>
-#include <stdexcept>
-#include <utility>
 
+using namespace orv::banking;
 using orv::accounting::AccountNumber;
-using orv::banking::Bank;
-using orv::banking::BankAccount;
-using orv::banking::BankAccountTypes;
-using orv::banking::BankName;
-using orv::banking::ReconciledBankAccount;
+using orv::foundation::LocaleAware;
 using orv::foundation::presentationText; // of a date, whose own namespace has none
 
 namespace {
-
-using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
 // What the type writes to a standard stream.
 template <typename T>
@@ -41,13 +31,12 @@ QString streamForm(T const& value)
 // The bank that NAME [NUMBER=KIND ...] describes.
 Bank toBank(QStringList const& words)
 {
-  Accounts accounts;
+  std::map<AccountNumber, BankAccountTypes> accounts;
   for (auto const& word : words.mid(1)) {
     auto const number = toAccountNumber(word.section(u'=', 0, 0));
-    auto const kind = orv::banking::toBankAccountTypes(word.section(u'=', 1));
-    if (!accounts.emplace(number, kind).second) {
+    if (!accounts.emplace(number, toKind(word.section(u'=', 1))).second) {
       throw BookError(
-          Book::tr("The account number %1 is given twice.").arg(presentationText(number)));
+          BookError::tr("The account number %1 is given twice.").arg(presentationText(number)));
     }
   }
   return Bank(BankName(words[0]), std::move(accounts), false);
@@ -55,30 +44,7 @@ Bank toBank(QStringList const& words)
 
 QString noHolderText(AccountNumber const& number)
 {
-  return Book::tr("No bank holds the account number %1.").arg(presentationText(number));
-}
-
-BankAccount accountAt(Bank const& bank, AccountNumber const& number)
-{
-  return {bank.name(), {number, bank.accounts().at(number)}};
-}
-
-// The one statement in the file, or the one of the account where its identifier is not empty.
-Statement statementOf(QString const& path, QString const& accountId)
-{
-  auto statements = readStatements(path);
-  QStringList accountIds;
-  for (auto const& statement : statements) {
-    accountIds += statement.accountId;
-  }
-  if (!accountId.isEmpty()) {
-    statements.removeIf([&](auto const& statement) { return statement.accountId != accountId; });
-  }
-  if (statements.size() != 1) {
-    throw BookError(Book::tr("Name one account; '%1' has statements of: %2.")
-                        .arg(path, accountIds.join(QStringLiteral(", "))));
-  }
-  return statements.first();
+  return BookError::tr("No bank holds the account number %1.").arg(presentationText(number));
 }
 
 } // namespace
@@ -88,7 +54,7 @@ struct Book::Command
   char const* arguments; // the source text, for the translator
   qsizetype fewestWords;
   qsizetype mostWords;
-  QString (Book::*run)(QStringList const& words);
+  void (Book::*run)(QStringList const& words);
 
   QString written(QString const& name) const
   {
@@ -122,13 +88,7 @@ QString Book::usage()
   for (auto const& [name, command] : commands()) {
     text += QStringLiteral("  ") + command.written(name) + u'\n';
   }
-  QStringList kinds;
-  for (auto const kind :
-       {BankAccountTypes::Chequeing, BankAccountTypes::CreditCard, BankAccountTypes::Loan,
-        BankAccountTypes::Savings, BankAccountTypes::Goal}) {
-    kinds += presentationText(kind);
-  }
-  return text + u'\n' + tr("KIND is one of: %1.").arg(kinds.join(QStringLiteral(", ")));
+  return text + u'\n' + tr("KIND is one of: %1.").arg(kindsOfAccount());
 }
 
 QString Book::execute(QByteArrayView line)
@@ -140,50 +100,40 @@ QString Book::execute(QByteArrayView line)
   auto const name = words.takeFirst();
   auto const found = commands().find(name);
   if (found == commands().end()) {
-    throw BookError(tr("There is no command '%1'.").arg(name));
+    throw BookError(BookError::tr("There is no command '%1'.").arg(name));
   }
   auto const& command = found->second;
   if (words.size() < command.fewestWords || words.size() > command.mostWords) {
-    throw BookError(tr("The command is written: %1").arg(command.written(name)));
+    throw BookError(BookError::tr("The command is written: %1").arg(command.written(name)));
   }
-  return (this->*command.run)(words);
+  shown_.clear();
+  (this->*command.run)(words);
+  return shown_;
 }
 
-QString Book::add(QStringList const& words)
+void Book::add(QStringList const& words)
 {
-  BankName const name(words[0]);
-  banks_.add(name, toAccountNumber(words[1]), orv::banking::toBankAccountTypes(words[2]));
-  follow(name, name);
-  return {};
+  banks_.add(BankName(words[0]), toAccountNumber(words[1]), toKind(words[2]));
 }
 
-QString Book::bank(QStringList const& words)
+void Book::bank(QStringList const& words)
 {
   banks_.add(toBank(words));
-  return {};
 }
 
-QString Book::close(QStringList const& words)
-{
-  banks_.close(BankName(words[0]));
-  return {};
-}
-
-QString Book::find(QStringList const& words)
+void Book::find(QStringList const& words)
 {
   auto const number = toAccountNumber(words[0]);
-  auto const bank = banks_.find(number);
-  return (bank ? presentationText(accountAt(*bank, number), orv::foundation::LocaleAware::Yes)
-               : noHolderText(number)) +
-         u'\n';
+  auto const account = accountOf(number);
+  auto const text = account ? presentationText(*account, LocaleAware::Yes) : noHolderText(number);
+  shown_ = printable(text) + u'\n';
 }
 
-QString Book::list(QStringList const& /*words*/)
+void Book::list(QStringList const& /*words*/)
 {
   QList<QStringList> rows{{tr("Bank"), tr("State"), tr("Account"), tr("Kind"), tr("Class"),
                            tr("Balance"), tr("Reconciled")}};
-  for (auto const& name : banks_.names()) {
-    auto const& bank = banks_.bank(name);
+  for (auto const& [name, bank] : banks_) {
     QStringList const start{presentationText(name), bank.isClosed() ? tr("closed") : tr("open")};
     if (bank.accounts().empty()) {
       rows += start;
@@ -192,110 +142,91 @@ QString Book::list(QStringList const& /*words*/)
       auto row = start + QStringList{presentationText(number), presentationText(kind),
                                      isAssetAccount(kind) ? tr("asset") : tr("liability")};
       if (auto const known = balances_.find(number); known != balances_.end()) {
-        row +=
-            {streamForm(known->second.balance()), presentationText(*known->second.reconciledOn())};
+        row += {streamForm(known->second.balance), presentationText(known->second.occurredOn)};
       }
       rows += row;
     }
   }
-  return toTable(rows, "llrllrl");
+  shown_ = toTable(rows, "llrllrl");
 }
 
-QString Book::open(QStringList const& words)
+void Book::print(QStringList const& /*words*/)
 {
-  banks_.open(BankName(words[0]));
-  return {};
+  shown_ = printable(streamForm(banks_)) + u'\n';
 }
 
-QString Book::print(QStringList const& /*words*/)
+void Book::reconcile(QStringList const& words)
 {
-  return streamForm(banks_) + u'\n';
-}
-
-QString Book::reconcile(QStringList const& words)
-{
-  auto const number = toAccountNumber(words[0]);
-  auto const onRecord = accountOnRecord(number);
+  auto const account = accountOnRecord(words[0]);
   auto const date = toDate(words[1]);
-  auto const balance = toMoney(words[2], words[3]);
-
-  auto const known = balances_.find(number);
-  auto account =
-      known == balances_.end() ? ReconciledBankAccount(onRecord, {}, std::nullopt) : known->second;
-  try {
-    account.reconcile(date, balance);
-  } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
-    throw BookError(tr("The balance of the account number %1 is not kept in %2.")
-                        .arg(presentationText(number), words[3]));
-  }
-  balances_.insert_or_assign(number, std::move(account));
-  return {};
+  record(account, {{}, words[3], toMoney(words[2], words[3]), date});
 }
 
-QString Book::remove(QStringList const& words)
+void Book::remove(QStringList const& words)
 {
   BankName const name(words[0]);
   if (words.size() == 1) {
     banks_.remove(name);
+    dropBalances();
   } else {
-    banks_.remove(name, toAccountNumber(words[1]));
+    auto const number = toAccountNumber(words[1]);
+    banks_.remove(name, number);
+    balances_.erase(number);
   }
-  follow(name, name);
-  return {};
 }
 
-QString Book::rename(QStringList const& words)
+void Book::statement(QStringList const& words)
 {
-  BankName const from(words[0]);
-  BankName const to(words[1]);
-  banks_.rename(from, to);
-  follow(from, to);
-  return {};
-}
-
-QString Book::statement(QStringList const& words)
-{
-  auto const onRecord = accountOnRecord(toAccountNumber(words[0])).accountNumberBankType;
-  auto const statement = statementOf(folder_.filePath(words[1]), words.value(2));
-  if (!statement.kinds.contains(onRecord.bankAccountType)) {
-    throw BookError(
-        tr("The account %1 is not of the kind that the statement is for, '%2'.")
-            .arg(presentationText(onRecord, orv::foundation::LocaleAware::Yes), statement.type));
+  auto const account = accountOnRecord(words[0]);
+  QFile file(folder_.filePath(words[1]));
+  if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    throw BookError(BookError::tr("There is no file '%1' that can be read.").arg(file.fileName()));
   }
-  return reconcile({words[0], statement.date, statement.balance, statement.currency});
+  record(account, readStatement(file.readAll(), words.value(2), account.accountNumberBankType));
 }
 
-QString Book::update(QStringList const& words)
+void Book::update(QStringList const& words)
 {
-  auto bank = toBank(words);
-  auto const name = bank.name();
-  banks_.update(std::move(bank));
-  follow(name, name);
-  return {};
+  banks_.update(toBank(words));
+  dropBalances();
 }
 
-BankAccount Book::accountOnRecord(AccountNumber const& number) const
+std::optional<BankAccount> Book::accountOf(AccountNumber const& number) const
 {
-  auto const bank = banks_.find(number);
-  if (!bank) {
-    throw BookError(noHolderText(number));
-  }
-  return accountAt(*bank, number);
-}
-
-void Book::follow(BankName const& before, BankName const& after)
-{
-  auto const accounts = banks_.hasBank(after) ? banks_.bank(after).accounts() : Accounts();
-  for (auto entry = balances_.begin(); entry != balances_.end();) {
-    auto& [number, account] = *entry;
-    if (account.bankAccount().bankName != before) {
-      ++entry;
-    } else if (auto const found = accounts.find(number); found == accounts.end()) {
-      entry = balances_.erase(entry);
-    } else {
-      account = ReconciledBankAccount({after, {number, found->second}}, account.balance(),
-                                      account.reconciledOn());
-      ++entry;
+  for (auto const& [name, bank] : banks_) {
+    if (auto const found = bank.accounts().find(number); found != bank.accounts().end()) {
+      return BankAccount{name, {number, found->second}};
     }
   }
+  return std::nullopt;
+}
+
+BankAccount Book::accountOnRecord(QString const& word) const
+{
+  auto const number = toAccountNumber(word);
+  if (auto const account = accountOf(number)) {
+    return *account;
+  }
+  throw BookError(noHolderText(number));
+}
+
+void Book::record(BankAccount const& account, Statement const& statement)
+{
+  auto const& number = account.accountNumberBankType.accountNumber;
+  ReconciledBankAccount reconciled(account, {}, std::nullopt);
+  if (auto const known = balances_.find(number); known != balances_.end()) {
+    reconciled = {account, known->second.balance, known->second.occurredOn};
+  }
+  try {
+    reconciled.reconcile(statement.date, statement.balance);
+  } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
+    throw BookError(BookError::tr("The balance of the account number %1 is not kept in %2.")
+                        .arg(presentationText(number), statement.currency));
+  }
+  balances_.insert_or_assign(number, ReconciledBalance{statement.balance, statement.date});
+}
+
+void Book::dropBalances()
+{
+  std::erase_if(balances_, [this](auto const& balance) { return !accountOf(balance.first); });
 }

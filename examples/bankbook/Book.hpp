@@ -1,8 +1,10 @@
 #pragma once
 
-#include <accounting/AccountNumber.hpp>
+#include "Statement.hpp"
+
+#include <banking/BankAccount.hpp>
 #include <banking/BankMap.hpp>
-#include <banking/ReconciledBankAccount.hpp>
+#include <banking/ReconciledBalance.hpp>
 
 #include <QByteArrayView>
 #include <QCoreApplication>
@@ -11,6 +13,7 @@
 #include <QStringList>
 
 #include <map>
+#include <optional>
 
 /// A household's books: its banks, and the last reconciliation of each account that has one.
 class Book
@@ -18,41 +21,51 @@ class Book
   Q_DECLARE_TR_FUNCTIONS(Book)
 
 public:
-  /// `folder` is where the book's words for files start from.
+  /// Creates an empty book. The names of files in its lines are relative to `folder`.
   explicit Book(QDir const& folder = QDir::current()) : folder_(folder) {}
 
-  /// Carries out a line, one command, and gives what there is to print. Throws what the library throws
-  /// and BookError, with a text for the user and with nothing changed.
+  /// Carries out a line, which is one command, and returns what there is to show, in printable lines.
+  ///
+  /// \throws BookError or what the library throws, with a text for the user; the book is unchanged
   QString execute(QByteArrayView line);
 
-  /// How each command is written, a line each, and which kinds of account there are.
+  /// Returns how each command is written, a line each, and which kinds of account there are.
   static QString usage();
 
 private:
+  using BankName = orv::banking::BankName;
+
   struct Command;
   static std::map<QString, Command> const& commands();
 
-  QString add(QStringList const& words);
-  QString bank(QStringList const& words);
-  QString close(QStringList const& words);
-  QString find(QStringList const& words);
-  QString list(QStringList const& words);
-  QString open(QStringList const& words);
-  QString print(QStringList const& words);
-  QString reconcile(QStringList const& words);
-  QString remove(QStringList const& words);
-  QString rename(QStringList const& words);
-  QString statement(QStringList const& words);
-  QString update(QStringList const& words);
+  void add(QStringList const& words);
+  void bank(QStringList const& words);
+  void close(QStringList const& words) { banks_.close(BankName(words[0])); }
+  void find(QStringList const& words);
+  void list(QStringList const& words);
+  void open(QStringList const& words) { banks_.open(BankName(words[0])); }
+  void print(QStringList const& words);
+  void reconcile(QStringList const& words);
+  void remove(QStringList const& words);
+  void rename(QStringList const& words) { banks_.rename(BankName(words[0]), BankName(words[1])); }
+  void statement(QStringList const& words);
+  void update(QStringList const& words);
 
-  // The account on record. Throws where no bank holds the number.
-  orv::banking::BankAccount accountOnRecord(orv::accounting::AccountNumber const& number) const;
+  std::optional<orv::banking::BankAccount>
+  accountOf(orv::accounting::AccountNumber const& number) const;
 
-  // Brings the balances at the bank that was called `before` in line with what the registry now says
-  // of the bank `after`.
-  void follow(orv::banking::BankName const& before, orv::banking::BankName const& after);
+  // The account with the number that the word is. Throws where no bank holds it.
+  orv::banking::BankAccount accountOnRecord(QString const& word) const;
+
+  // Reconciles the account with what the bank says of it.
+  void record(orv::banking::BankAccount const& account, Statement const& statement);
+
+  // Drops the balances of accounts that no bank holds any more.
+  void dropBalances();
 
   QDir folder_;
+  QString shown_; // by the command that is carried out
   orv::banking::BankMap banks_;
-  std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBankAccount> balances_;
+  // Of the accounts that have been reconciled. The registry knows which bank holds each, and as what.
+  std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBalance> balances_;
 };

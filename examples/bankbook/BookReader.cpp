@@ -1,38 +1,33 @@
 #include "BookReader.hpp"
 
-#include "BookError.hpp"
-
-#include <QCoreApplication>
-#include <QRegularExpression>
 #include <QStringDecoder>
+
+#include <algorithm>
+#include <utility>
+
+using orv::banking::BankAccountTypes;
+using enum BankAccountTypes;
 
 namespace {
 
-struct BookReader
+// Qt's conversions take signs, spaces and other digits, too.
+bool isAll(QStringView text, QChar first, QChar last)
 {
-  Q_DECLARE_TR_FUNCTIONS(BookReader)
-};
-
-bool matches(QString const& word, char const* pattern)
-{
-  return QRegularExpression(QRegularExpression::anchoredPattern(QLatin1String(pattern)))
-      .match(word)
-      .hasMatch();
-}
-
-bool isBlank(QChar c)
-{
-  return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+  return !text.isEmpty() &&
+         std::all_of(text.begin(), text.end(), [&](QChar c) { return c >= first && c <= last; });
 }
 
 } // namespace
 
 QString toText(QByteArrayView line)
 {
+  if (line.contains('\0')) {
+    throw BookError(BookError::tr("The line contains a NUL character."));
+  }
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString text = decode(line);
   if (decode.hasError()) {
-    throw BookError(BookReader::tr("The line is not UTF-8 text."));
+    throw BookError(BookError::tr("The line is not UTF-8 text."));
   }
   return text;
 }
@@ -45,76 +40,87 @@ QStringList toWords(QString const& line)
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size(); ++i) {
     auto const c = line[i];
-    if (inQuotes) {
-      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
-      if (c == u'"') {
-        inQuotes = false;
-      } else if (c == u'\\' && (next == u'"' || next == u'\\')) {
-        word += next;
-        ++i;
-      } else {
-        word += c;
-      }
-    } else if (isBlank(c)) {
+    auto const isBlank = c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
+    if (!inQuotes && (isBlank || (c == u'#' && !inWord))) {
       if (inWord) {
-        words += word;
-        word.clear();
+        words += std::exchange(word, {});
         inWord = false;
       }
-    } else if (c == u'#' && !inWord) {
-      break;
-    } else {
-      inWord = true;
-      if (c == u'"') {
-        inQuotes = true;
-      } else {
-        word += c;
+      if (c == u'#') {
+        break;
       }
+      continue;
     }
+    inWord = true;
+    if (c == u'"') {
+      inQuotes = !inQuotes;
+      continue;
+    }
+    auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
+    auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
+    word += isEscape ? next : c;
+    i += isEscape ? 1 : 0;
   }
   if (inQuotes) {
-    throw BookError(BookReader::tr("A quoted word does not end."));
+    throw BookError(BookError::tr("A quoted word does not end."));
   }
-  if (inWord) {
-    words += word;
-  }
-  return words;
+  return inWord ? words << word : words;
 }
 
 orv::accounting::AccountNumber toAccountNumber(QString const& word)
 {
   bool fits = false;
   auto const integer = word.toUInt(&fits);
-  if (!fits || !matches(word, "[0-9]+")) {
-    throw BookError(BookReader::tr("'%1' is not an account number.").arg(word));
+  if (!fits || !isAll(word, u'0', u'9')) {
+    throw BookError(BookError::tr("'%1' is not an account number.").arg(word));
   }
   return orv::accounting::AccountNumber(integer);
 }
 
+BankAccountTypes toKind(QString const& word)
+{
+  try {
+    return orv::banking::toBankAccountTypes(word);
+  } catch (std::logic_error const&) { // whose text is for programmers
+    throw BookError(BookError::tr("'%1' is no kind of account; the kinds are: %2.")
+                        .arg(word, kindsOfAccount()));
+  }
+}
+
+QString kindsOfAccount()
+{
+  QStringList kinds;
+  for (auto const kind : {Chequeing, CreditCard, Loan, Savings, Goal}) {
+    kinds += presentationText(kind);
+  }
+  return kinds.join(QStringLiteral(", "));
+}
+
 QDate toDate(QString const& word)
 {
-  auto const date = QDate::fromString(word, QStringLiteral("yyyy-MM-dd"));
-  if (!date.isValid()) {
-    throw BookError(BookReader::tr("'%1' is not a date such as 2026-01-31.").arg(word));
+  auto const date = QDate::fromString(word, Qt::ISODate);
+  // Qt takes other separators, too, and a time.
+  if (!date.isValid() || word.size() != 10 || !isAll(QString(word).remove(u'-'), u'0', u'9')) {
+    throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31.").arg(word));
   }
   return date;
 }
 
 mintar::Money toMoney(QString const& amount, QString const& currency)
 {
-  if (!matches(currency, "[A-Z]{3}")) {
-    throw BookError(BookReader::tr("'%1' is not a currency code such as CAD.").arg(currency));
+  if (currency.size() != 3 || !isAll(currency, u'A', u'Z')) {
+    throw BookError(BookError::tr("'%1' is not a currency code such as CAD.").arg(currency));
   }
   mintar::Currency const known(currency);
   auto const point = amount.indexOf(u'.');
-  auto const decimals = point < 0 ? 0 : amount.size() - point - 1;
+  auto const whole = amount.left(point); // all of it where there is no point
+  auto const decimals = point < 0 ? QString() : amount.mid(point + 1);
+  auto const minorUnits = whole + decimals.leftJustified(known.decimals(), u'0');
   bool fits = false;
-  // In minor units: without the point, and with the decimals that were left out.
-  auto const minorUnits = (QString(amount).remove(u'.') +
-                           QString(qMax<qsizetype>(0, known.decimals() - decimals), QChar(u'0')))
-                              .toLongLong(&fits);
-  if (!fits || decimals > known.decimals() || !matches(amount, "-?[0-9]+(\\.[0-9]+)?")) {
-    throw BookError(BookReader::tr("'%1' is not an amount of %2.").arg(amount, currency));
+  mintar::Money const money(known, minorUnits.toLongLong(&fits));
+  if (!fits || !isAll(whole.mid(whole.startsWith(u'-') ? 1 : 0), u'0', u'9') ||
+      (point >= 0 && !isAll(decimals, u'0', u'9')) || decimals.size() > known.decimals()) {
+    throw BookError(BookError::tr("'%1' is not an amount of %2.").arg(amount, currency));
   }
-  return {known, minorUnits};
+  return money;
 }

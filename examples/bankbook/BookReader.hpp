@@ -1,29 +1,49 @@
 #pragma once
 
 #include <accounting/AccountNumber.hpp>
+#include <banking/BankAccountTypes.hpp>
 #include <mintar/Money.hpp>
 
 #include <QByteArrayView>
+#include <QCoreApplication>
 #include <QDate>
 #include <QString>
 #include <QStringList>
 
+#include <stdexcept>
+
+/// An error of whoever wrote a line, or of a file that it names. `what()` is for the user, translated and
+/// in UTF-8, as it is of the library's own errors.
+class BookError : public std::runtime_error
+{
+  Q_DECLARE_TR_FUNCTIONS(BookError)
+
+public:
+  explicit BookError(QString const& text) : std::runtime_error(text.toStdString()) {}
+};
+
 // How the words of a book are read. Each function throws BookError with the word in the text.
 
-/// The text of a line. Throws for bytes that are not UTF-8.
+/// Returns the text of a line. Throws for bytes that are not UTF-8, and for NUL.
 QString toText(QByteArrayView line);
 
-/// The words of a line: blanks separate them, double quotes hold words with blanks together, with \"
-/// and \\ inside for a quote and a backslash, and # where a word could begin starts a comment. Throws
-/// for a quote that does not end.
+/// Returns the words of a line: blanks separate them, double quotes hold words with blanks together,
+/// with \" and \\ inside for a quote and a backslash, and # where a word could begin starts a comment.
+/// Throws for a quote that does not end.
 QStringList toWords(QString const& line);
 
-/// The account number in decimal digits. Zero, the invalid number, is read like any other.
+/// Reads an account number in decimal digits. Zero, the invalid number, is read like any other.
 orv::accounting::AccountNumber toAccountNumber(QString const& word);
 
-/// The date in ISO 8601, 2026-01-31.
+/// Reads a kind of account, in English or in the user's language.
+orv::banking::BankAccountTypes toKind(QString const& word);
+
+/// Returns the kinds that an account can have, in the user's language, for a sentence.
+QString kindsOfAccount();
+
+/// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
 
-/// The amount, for instance "-1250.5", exactly: no more decimals than the currency has, and no more
-/// minor units than a 64-bit number holds. The currency is three capital letters.
+/// Reads an amount, for instance "-1250.5", exactly: it has no more decimals than the currency, and no
+/// more minor units than a 64-bit number holds. The currency is three capital letters.
 mintar::Money toMoney(QString const& amount, QString const& currency);

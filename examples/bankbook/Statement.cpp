@@ -1,218 +1,198 @@
 #include "Statement.hpp"
 
-#include "BookError.hpp"
+#include "BookReader.hpp"
 
-#ifdef BANKBOOK_HAS_LIBOFX
-
-#include <QDataStream>
-#include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
-#include <QLocale>
+#include <QHash>
 #include <QRegularExpression>
-#include <QTemporaryDir>
+#include <QXmlStreamReader>
 
-#include <array>
-#include <cerrno>
-#include <fcntl.h>
-#include <libofx/libofx.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <algorithm>
 
 using orv::banking::BankAccountTypes;
 
-static QDataStream& operator<<(QDataStream& stream, Statement const& statement)
-{
-  return stream << statement.accountId << statement.type << statement.kinds << statement.date
-                << statement.balance << statement.currency;
-}
-
-static QDataStream& operator>>(QDataStream& stream, Statement& statement)
-{
-  return stream >> statement.accountId >> statement.type >> statement.kinds >> statement.date >>
-         statement.balance >> statement.currency;
-}
-
 namespace {
 
-// Decades of a busy account. libofx takes four times as long for twice as much.
-constexpr qint64 mostBytes = 2LL * 1024 * 1024;
-constexpr rlim_t mostSeconds = 10;
-
-struct Type
+struct Tag
 {
-  char const* name = nullptr;
-  QList<BankAccountTypes> kinds;
+  QString name; // in capital letters, without a namespace
+  bool isEnd = false;
+  qsizetype begin = 0;
+  qsizetype end = 0; // where the text up to the next tag begins
 };
 
-// By value of OfxAccountData::AccountType. A goal is money set aside.
-std::array<Type, 8> const types{{
-    {"CHECKING", {BankAccountTypes::Chequeing}},
-    {"SAVINGS", {BankAccountTypes::Savings, BankAccountTypes::Goal}},
-    {"MONEYMRKT", {BankAccountTypes::Savings, BankAccountTypes::Goal}},
-    {"CREDITLINE", {BankAccountTypes::Loan}},
-    {"CMA", {BankAccountTypes::Chequeing, BankAccountTypes::Savings, BankAccountTypes::Goal}},
-    {"CREDITCARD", {BankAccountTypes::CreditCard}},
-    {"INVESTMENT", {}},
-    {"401K", {}},
-}};
+// What a statement says, by element; the elements of its balance are named like LEDGERBAL/BALAMT.
+using Values = QHash<QString, QString>;
 
-// Takes in what the statement callback of libofx gets. A field that the file overfills has no zero at its
-// end, but QByteArrayView knows where its array ends.
-int append(OfxStatementData const data, void* statements) // clazy:exclude=function-args-by-ref
+// The tags up to the first </OFX>.
+QList<Tag> tagsIn(QString const& content)
 {
-  Statement statement;
-  if (auto const* const account = data.account_ptr) {
-    statement.accountId = QString::fromUtf8(QByteArrayView(account->account_number));
-    if (account->account_type_valid) {
-      auto const& type = types.at(account->account_type);
-      statement.type = QLatin1String(type.name);
-      statement.kinds = type.kinds;
-    }
-  }
-  if (data.ledger_balance_date_valid) {
-    statement.date = QDateTime::fromSecsSinceEpoch(data.ledger_balance_date, Qt::UTC)
-                         .date()
-                         .toString(Qt::ISODate);
-  }
-  if (data.ledger_balance_valid) {
-    statement.balance = QString::number(data.ledger_balance, 'f', QLocale::FloatingPointShortest);
-  }
-  if (data.currency_valid) {
-    statement.currency = QString::fromUtf8(QByteArrayView(data.currency));
-  }
-  static_cast<QList<Statement>*>(statements)->append(statement);
-  return 0;
-}
-
-// The value as libofx reads it right, empty where there is none: libofx takes a word that is no amount
-// for zero, and moves a date by the time of day and the zone that stand behind it. A double holds up
-// to 15 digits exactly.
-QString plainValue(QString const& tag, QString const& value)
-{
-  static QRegularExpression const amount(
-      QStringLiteral("^[+-]?(?=([.,]?[0-9]){1,15}$)[0-9]*[.,]?[0-9]+$"));
-  static QRegularExpression const date(
-      QStringLiteral("^([0-9]{8})([0-9]{4}([0-9]{2})?)?(?![0-9])"));
-  if (tag == QStringLiteral("BALAMT")) {
-    return amount.match(value).captured();
-  }
-  auto const day = date.match(value).captured(1);
-  return QDate::fromString(day, QStringLiteral("yyyyMMdd")).isValid() ? day : QString();
-}
-
-// The file with plain values in all balances. Throws for a value that has none.
-QString withPlainValues(QString const& content)
-{
-  // As SGML has it: a tag may lack its >, and a value ends where a tag begins, not at another <.
-  static QRegularExpression const balance(
-      QStringLiteral("<(BALAMT|DTASOF)(?:\\s*>)?(.*?)(?=</?[A-Z])"),
+  // Comments, sections and instructions, where tags are none, and tags. What follows a + is not given up
+  // again, so that the time is linear.
+  static QRegularExpression const markup(
+      QStringLiteral("<!--(?:.*?-->|.*+)|<!\\[(?:.*?\\]\\]>|.*+)|<[!?][^>]*+|"
+                     "<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+>"),
       QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-  QString text;
-  qsizetype end = 0;
-  for (auto matches = balance.globalMatch(content); matches.hasNext();) {
-    auto const match = matches.next();
-    auto const tag = match.captured(1).toUpper();
-    auto const value = match.captured(2).simplified();
-    auto const plain = plainValue(tag, value);
-    if (plain.isEmpty()) {
-      throw BookError(
-          Statement::tr("The statement's %1 '%2' cannot be read.").arg(tag, value.left(40)));
+  QList<Tag> tags;
+  for (auto const& match : markup.globalMatch(content)) {
+    auto const name = match.captured(2).toUpper();
+    auto const isEnd = match.capturedLength(1) > 0;
+    if (!name.isEmpty()) {
+      tags += {name, isEnd, match.capturedStart(), match.capturedEnd()};
     }
-    text += content.mid(end, match.capturedStart(2) - end) + plain;
-    end = match.capturedEnd(2);
+    if (!name.isEmpty() && match.capturedView().endsWith(u"/>")) {
+      tags += {name, true, match.capturedEnd(), match.capturedEnd()};
+    }
+    if (isEnd && name == u"OFX") {
+      break;
+    }
   }
-  return text + content.mid(end);
+  return tags;
 }
 
-// Has libofx read the file "statement" in the folder and writes what it tells to the file "result".
-// Ends this process, with zero where libofx found no error.
-[[noreturn]] void parse(QTemporaryDir const& folder) noexcept
+QString valueOf(QString text)
 {
-  rlimit const time{mostSeconds, mostSeconds};
-  rlimit const core{0, 0};
-  setrlimit(RLIMIT_CPU, &time);
-  setrlimit(RLIMIT_CORE, &core);
-  auto const nowhere = ::open("/dev/null", O_WRONLY);
-  dup2(nowhere, STDOUT_FILENO);
-  dup2(nowhere, STDERR_FILENO);
-  qputenv("TMPDIR", QFile::encodeName(folder.path()));
-
-  QList<Statement> statements;
-  auto const context = libofx_get_new_context();
-  ofx_set_statement_cb(context, append, &statements);
-  auto const status =
-      libofx_proc_file(context, QFile::encodeName(folder.filePath("statement")).constData(), OFX);
-  QFile result(folder.filePath("result"));
-  if (status != 0 || !result.open(QIODevice::WriteOnly)) {
-    _exit(1);
-  }
-  QDataStream stream(&result);
-  stream << statements;
-  _exit(result.flush() ? 0 : 1);
+  text.replace("&nbsp;", " ");
+  QXmlStreamReader xml("<v>" + text + "</v>");
+  xml.readNextStartElement();
+  auto const value = xml.readElementText();
+  return xml.hasError() ? text : value; // in SGML, an ampersand may also stand for itself
 }
 
-// Throws for what is too much for libofx, and for what no bank sent or not to its end.
-QByteArray contentOf(QString const& path)
+// What each statement in the file says. Throws where the file is not one whole OFX file.
+QList<Values> valuesIn(QString const& content)
 {
-  QFile file(path);
-  if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
-    throw BookError(Statement::tr("There is no file '%1' that can be read.").arg(path));
+  auto const tags = tagsIn(content);
+  auto const starts = std::count_if(
+      tags.begin(), tags.end(), [](auto const& tag) { return tag.name == u"OFX" && !tag.isEnd; });
+  if (starts != 1 || content.indexOf(u"<OFX>", tags.last().end, Qt::CaseInsensitive) >= 0) {
+    throw BookError(starts == 0 ? BookError::tr("The file is not an OFX file.")
+                                : BookError::tr("The file is several OFX files in one."));
   }
-  auto content = file.read(mostBytes + 1);
-  if (content.size() > mostBytes) {
-    throw BookError(Statement::tr("The file '%1' is too large for a statement.").arg(path));
+  BookError const cutShort(BookError::tr("The file is cut short or damaged."));
+
+  // Backwards, as it takes the end tag to tell an element that holds others from one that holds a value
+  // and may do without.
+  QList<Values> statements;
+  QStringList parents; // of the tag, the outermost first
+  qsizetype depth = 0; // of what stands directly in the statement that the tag is in, if any
+  for (auto i = tags.size() - 1; i >= 0; --i) {
+    auto const& [name, isEnd, begin, end] = tags[i];
+    auto const isStatement = name == u"STMTRS" || name == u"CCSTMTRS";
+    auto const hasEnd = isEnd || parents.endsWith(name);
+    if ((!hasEnd && (isStatement || name == u"OFX")) || (isEnd && isStatement && depth > 0)) {
+      throw cutShort;
+    }
+    if (isEnd) {
+      parents += name;
+    } else if (hasEnd) {
+      parents.removeLast();
+    }
+    if (isStatement) {
+      depth = isEnd ? parents.size() : 0;
+      if (isEnd) {
+        statements.prepend(name == u"STMTRS" ? Values() : Values{{"ACCTTYPE", "CREDITCARD"}});
+      }
+    } else if (depth > 0 && !isEnd && parents.size() <= depth + 1 &&
+               (!hasEnd || tags[i + 1].isEnd)) {
+      auto const text = content.mid(end, tags[i + 1].begin - end);
+      auto const place = (parents.mid(depth) << name).join(u'/');
+      statements.first()[place.section("ACCTFROM/", -1)].prepend(valueOf(text) + u' ');
+    }
   }
-  if (!content.left(1024).contains("OFXHEADER") || !content.trimmed().endsWith("</OFX>")) {
-    throw BookError(Statement::tr("The file '%1' is not a whole OFX file.").arg(path));
+  return depth == 0 ? statements : throw cutShort;
+}
+
+// The kinds of account that a type of OFX stands for. A goal is money set aside.
+QList<BankAccountTypes> toKinds(QString const& type)
+{
+  using enum BankAccountTypes;
+  static QHash<QString, QList<BankAccountTypes>> const kinds{
+      {"CHECKING", {Chequeing}},      {"SAVINGS", {Savings, Goal}},
+      {"MONEYMRKT", {Savings, Goal}}, {"CD", {Savings, Goal}},
+      {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
+      {"CREDITCARD", {CreditCard}},
+  };
+  auto const found = kinds.find(type.toUpper());
+  return found != kinds.end() ? *found : throw BookError(type);
+}
+
+// An amount of OFX as a book has it: without a plus, with a point for a comma, and a digit before it.
+QString bookAmount(QString const& amount)
+{
+  static QRegularExpression const plus(QStringLiteral("^\\+(?!-)"));
+  static QRegularExpression const barePoint(QStringLiteral("(?<![0-9])(?=\\.)"));
+  return QString(amount).remove(plus).replace(u',', u'.').replace(barePoint, QStringLiteral("0"));
+}
+
+// The day that a date of OFX begins with, whatever time and zone follow.
+QString bookDate(QString const& date)
+{
+  static QRegularExpression const day(
+      QStringLiteral("^([0-9]{4})([0-9]{2})([0-9]{2})([0-9]{2}){0,3}(?![0-9]).*$"));
+  return QString(date).replace(day, QStringLiteral("\\1-\\2-\\3"));
+}
+
+// What `read` makes of a value. Throws with the element and the value where it is missing or unreadable.
+template <typename Read>
+auto readValue(Values const& values, QString const& element, Read&& read)
+{
+  auto const value = values.value(element).simplified();
+  if (value.isEmpty()) {
+    throw BookError(BookError::tr("The statement has no %1.").arg(element));
   }
-  return content;
+  try {
+    return read(value);
+  } catch (BookError const&) {
+    throw BookError(BookError::tr("The statement's %1 '%2' cannot be read.").arg(element, value));
+  }
+}
+
+Statement toStatement(Values const& values)
+{
+  auto const currency =
+      readValue(values, "CURDEF", [](QString const& value) { return toMoney("0", value), value; });
+  return {readValue(values, "ACCTID", [](QString const& value) { return value; }), currency,
+          readValue(values, "LEDGERBAL/BALAMT",
+                    [&](QString const& value) { return toMoney(bookAmount(value), currency); }),
+          readValue(values, "LEDGERBAL/DTASOF",
+                    [](QString const& value) { return toDate(bookDate(value)); })};
 }
 
 } // namespace
 
-QList<Statement> readStatements(QString const& path)
+Statement readStatement(QByteArray const& content, QString const& accountId,
+                        orv::banking::AccountNumberBankType const& account)
 {
-  auto const content = withPlainValues(QString::fromLatin1(contentOf(path))).toLatin1();
-  QTemporaryDir const folder;
-  QFile copy(folder.filePath("statement"));
-  if (!copy.open(QIODevice::WriteOnly) || copy.write(content) != content.size() || !copy.flush()) {
-    throw BookError(copy.errorString());
+  auto const start = content.left(4);
+  if (start.contains('\0') || start.startsWith("\xFF\xFE") || start.startsWith("\xFE\xFF")) {
+    throw BookError(BookError::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
   }
-
-  // In a process of its own: some broken files keep libofx busy for minutes, and it writes to the
-  // standard streams and into the environment, and leaves files behind.
-  auto const child = fork();
-  if (child == 0) {
-    parse(folder);
-  }
-  if (child < 0) {
-    throw BookError(qt_error_string(errno));
-  }
-  auto status = -1;
-  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
-  }
-
+  QStringList accountIds;
+  QString otherType; // of a statement of the account, for another kind
   QList<Statement> statements;
-  QFile result(folder.filePath("result"));
-  if (status == 0 && result.open(QIODevice::ReadOnly)) {
-    QDataStream stream(&result);
-    stream >> statements;
+  for (auto const& values : valuesIn(QString::fromUtf8(content))) {
+    accountIds += values.value("ACCTID").simplified();
+    if (!accountId.isEmpty() && accountIds.last() != accountId) {
+      continue;
+    }
+    if (!readValue(values, "ACCTTYPE", &toKinds).contains(account.bankAccountType)) {
+      otherType = values.value("ACCTTYPE").simplified();
+    } else if (auto const statement = toStatement(values); !statements.contains(statement)) {
+      statements += statement;
+    }
   }
-  if (statements.isEmpty()) {
-    throw BookError(
-        Statement::tr("The file '%1' has no statement that libofx reads without errors.")
-            .arg(path));
+  if (statements.size() == 1) {
+    return statements.first();
   }
-  return statements;
+  auto const ids = accountIds.join(", ");
+  throw BookError(
+      accountIds.isEmpty()
+          ? BookError::tr("The file has no statement of a bank account or a credit card.")
+      : !statements.isEmpty()
+          ? BookError::tr("The file has statements that differ, of the accounts: %1.").arg(ids)
+      : otherType.isEmpty()
+          ? BookError::tr("The file has no statement of the account '%1', but of: %2.")
+                .arg(accountId, ids)
+          : BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
+                .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
 }
-
-#else
-
-QList<Statement> readStatements(QString const& /*path*/)
-{
-  throw BookError(Statement::tr("bankbook was built without libofx, which reads statements."));
-}
-
-#endif

@@ -1,27 +1,30 @@
 #pragma once
 
 #include <banking/BankAccountTypes.hpp>
+#include <mintar/Money.hpp>
 
-#include <QCoreApplication>
-#include <QList>
+#include <QByteArray>
+#include <QDate>
 #include <QString>
 
-/// What a bank's statement says of one account, in the words of a book: an empty word is one that the
-/// statement does not say.
+/// What a bank's statement says of an account.
 struct Statement
 {
-  Q_DECLARE_TR_FUNCTIONS(Statement)
-
-public:
   QString accountId; ///< what the bank calls the account
-  QString type;      ///< what OFX calls the kind of account, for instance CREDITLINE
-  QList<orv::banking::BankAccountTypes> kinds; ///< the kinds of account that this type stands for
-  QString date;    ///< the day of the ledger balance as the bank wrote it
-  QString balance; ///< the ledger balance, for instance "-1250.5", exactly
-  QString currency;
+  QString currency;  ///< of the balance, for instance "CAD"
+  mintar::Money balance;
+  QDate date; ///< the day of the balance, as the bank wrote it
+
+  friend bool operator==(Statement const& lhs, Statement const& rhs) = default;
 };
 
-/// The statements in a bank's OFX file, of version 1 or 2, in the file's order. Throws BookError where
-/// there are none, or none that can be relied on, whatever the file is and holds, and where bankbook was
-/// built without libofx. Takes a process, and at most some seconds.
-QList<Statement> readStatements(QString const& path);
+/// Reads a statement from an OFX file's content: SGML (version 1) or XML (version 2), in any encoding
+/// that contains ASCII. Among several, it is the one of the bank's `accountId`, unless that is empty,
+/// and for the kind of `account`.
+///
+/// \throws BookError if there is no such statement or several that differ, or if the file or what the
+///     statement says cannot be relied on
+///
+/// Complexity: linear in the size of the content.
+Statement readStatement(QByteArray const& content, QString const& accountId,
+                        orv::banking::AccountNumberBankType const& account);

@@ -1,5 +1,6 @@
 #include "Book.hpp"
-#include "BookError.hpp"
+#include "BookReader.hpp"
+#include "Terminal.hpp"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -11,91 +12,140 @@
 #include <QTextStream>
 #include <QTranslator>
 
+#include <cerrno>
+#include <clocale>
 #include <cstdio>
 #include <exception>
+#include <string>
 #include <unistd.h>
 
 namespace {
 
-enum ExitStatus
-{
-  AllDone = 0,
-  LinesRefused = 1,
-  NotRun = 2,
-};
+// Exit statuses.
+constexpr int allDone = 0;
+constexpr int linesRefused = 1;
+constexpr int notRun = 2;
 
 struct Bankbook
 {
   Q_DECLARE_TR_FUNCTIONS(Bankbook)
 };
 
-// All texts depend on the locale, those of the other options too: so it is read before them, by a
-// parser that knows no other option and does not mind.
-void setLocale(QCommandLineOption const& localeOption)
+// Writes a line to standard error. Returns the status for an end because of it.
+int tell(QString const& text)
+{
+  QTextStream(stderr) << printable(text) << '\n';
+  return notRun;
+}
+
+int notRead(QString const& name)
+{
+  return tell(Bankbook::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
+}
+
+// Writes the text to standard output. Returns whether all that was shown so far has been taken.
+bool show(QString const& text)
+{
+  static QTextStream out(stdout);
+  out << text << Qt::flush;
+  return out.status() == QTextStream::Ok;
+}
+
+// Returns `status`, or another one where standard output did not take what was shown.
+int ended(int status)
+{
+  return show({}) ? status : tell(Bankbook::tr("Standard output cannot be written."));
+}
+
+// All texts depend on the locale, those of the other options too: so it is set before them, by a parser
+// that knows no other option and does not mind. Returns whether Qt knows the locale.
+bool setLocale(QCommandLineOption const& option)
 {
   QCommandLineParser parser;
-  parser.addOption(localeOption);
+  parser.addOption(option);
   parser.parse(QCoreApplication::arguments());
-  auto const name = parser.value(localeOption);
-  if (!name.isEmpty()) {
-    QLocale::setDefault(QLocale(name));
+  if (!parser.isSet(option)) {
+    return true;
   }
+  auto const name = parser.value(option);
+  QLocale::setDefault(QLocale(name)); // C for one that is not known
+  return QLocale().language() != QLocale::C || name == u"C" || name == u"POSIX";
 }
 
-// Where there is no translation, English stays.
-void installTranslator(QString const& name, QString const& folder)
-{
-  auto* const translator = new QTranslator(QCoreApplication::instance());
-  if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
-    QCoreApplication::installTranslator(translator);
-  }
-}
-
+// Bankbook's own translation decides on the language of all texts: nobody is to read two at a time.
 void installTranslators()
 {
-  installTranslator(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-  auto const data = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/");
-  for (auto const& name : {QStringLiteral("orv-banking"), QStringLiteral("bankbook")}) {
-    installTranslator(name, data + name + QStringLiteral("/translations"));
+  auto const share = QCoreApplication::applicationDirPath() + "/../share/%1/translations";
+  auto* const own = new QTranslator(QCoreApplication::instance());
+  if (!own->load(QLocale(), "bankbook", "_", share.arg("bankbook")) || own->language().isEmpty()) {
+    std::setlocale(LC_MESSAGES, "C"); // what the system says of files, in English
+    return;
   }
+  QCoreApplication::installTranslator(own);
+  auto const installOther = [&](QString const& name, QString const& folder) {
+    auto* const other = new QTranslator(QCoreApplication::instance());
+    if (other->load(name + own->language(), folder)) {
+      QCoreApplication::installTranslator(other);
+    }
+  };
+  installOther("orv-banking_", share.arg("orv-banking"));
+  installOther("qtbase_", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 
-// Runs the lines of `file` one by one; `name` stands before each refusal.
-ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
+// Reads a line without its line feed. Returns whether there was one. Throws for a line that is too long,
+// when all of it has been read.
+bool readLine(std::FILE* file, std::string& line)
 {
-  QTextStream out(stdout);
-  QTextStream err(stderr);
-  Book book(QFileInfo(file).absoluteDir()); // the current one for standard input
-  auto status = AllDone;
-  for (int number = 1;; ++number) {
-    if (prompts) {
-      out << "bankbook> " << Qt::flush;
+  constexpr std::size_t longest = 1024 * 1024;
+  line.clear();
+  auto c = getc_unlocked(file);
+  auto const isEnd = c == EOF;
+  for (; c != EOF && c != '\n'; c = getc_unlocked(file)) {
+    if (line.size() <= longest) {
+      line += static_cast<char>(c);
     }
-    auto const line = file.readLine();
-    if (line.isEmpty()) {
-      file.peek(1); // or an error of standard input would pass for its end
-      break;
+  }
+  if (line.size() > longest) {
+    throw BookError(Bankbook::tr("The line is longer than 1 MiB."));
+  }
+  return !isEnd;
+}
+
+// Carries out the lines of `file` one by one; `name` stands before each refusal. At a prompt, what guides
+// a person is kept apart from the results, which may go elsewhere.
+int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
+{
+  Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
+  auto status = allDone;
+  std::string line;
+  auto const guide = [&](QString const& text) {
+    if (isAtPrompt) {
+      QTextStream(stderr) << text;
     }
+  };
+  guide(Bankbook::tr("Type help for the commands, or quit to leave.") + u'\n');
+  for (int number = 1; status == allDone || !isStrict; ++number) {
+    guide("bankbook> ");
     try {
-      out << book.execute(line) << Qt::flush;
-    } catch (std::exception const& refusal) {
-      err << name << ':' << number << ": " << QString::fromUtf8(refusal.what()) << '\n'
-          << Qt::flush;
-      status = LinesRefused;
-      if (strict) {
+      if (!readLine(file, line)) {
+        guide("\n");
         break;
       }
+      if (isAtPrompt && line == "quit") {
+        break;
+      }
+      if (isAtPrompt && line == "help") {
+        guide(Book::usage() + u'\n');
+      } else {
+        show(book.execute(line));
+      }
+    } catch (std::exception const& refusal) {
+      auto const text = QString::fromUtf8(refusal.what());
+      tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), text));
+      status = linesRefused;
     }
   }
-  if (file.error() != QFile::NoError) {
-    err << Bankbook::tr("%1 cannot be read: %2").arg(name, file.errorString()) << '\n';
-    return NotRun;
-  }
-  if (out.status() != QTextStream::Ok) {
-    err << Bankbook::tr("Standard output cannot be written.") << '\n';
-    return NotRun;
-  }
-  return status;
+  return std::ferror(file) != 0 ? notRead(name) : ended(status);
 }
 
 } // namespace
@@ -103,59 +153,51 @@ ExitStatus run(QFile& file, QString const& name, bool strict, bool prompts)
 int main(int argc, char* argv[])
 {
   QCoreApplication const application(argc, argv);
-  QCoreApplication::setApplicationName(QStringLiteral("bankbook"));
-  QCoreApplication::setApplicationVersion(QStringLiteral(BANKBOOK_VERSION));
+  QCoreApplication::setApplicationName("bankbook");
+  qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context,
+                            QString const& text) { tell(qFormatLogMessage(type, context, text)); });
 
-  QCommandLineOption localeOption(QStringLiteral("locale"));
-  localeOption.setValueName(QStringLiteral("LOCALE"));
-  setLocale(localeOption);
+  QCommandLineOption localeOption("locale", {}, "LOCALE");
+  auto const isLocaleKnown = setLocale(localeOption);
   installTranslators();
 
-  localeOption.setDescription(Bankbook::tr("Show texts and amounts as in this locale."));
-  QCommandLineOption const quietOption(QStringLiteral("quiet"),
-                                       Bankbook::tr("Do not tell of each change of a bank."));
-  QCommandLineOption const strictOption(QStringLiteral("strict"),
-                                        Bankbook::tr("Stop at the first line that is refused."));
-  QCommandLineOption const helpOption({QStringLiteral("h"), QStringLiteral("help")},
-                                      Bankbook::tr("Show this help."));
+  localeOption.setDescription(Bankbook::tr("Show texts, amounts and dates as in this locale."));
   QCommandLineParser parser;
   parser.setApplicationDescription(Bankbook::tr("Keeps a household's books, one command a line:") +
-                                   QStringLiteral("\n\n") + Book::usage());
-  parser.addOptions({localeOption, quietOption, strictOption, helpOption});
+                                   "\n\n" + Book::usage());
+  parser.addOptions({
+      localeOption,
+      {"quiet", Bankbook::tr("Do not report the changes of banks.")},
+      {"verbose", Bankbook::tr("Report the changes of banks, at the prompt too.")},
+      {"strict", Bankbook::tr("Stop at the first line that is refused.")},
+      {{"h", "help"}, Bankbook::tr("Show this help.")},
+  });
   parser.addVersionOption();
-  auto const fileArgument = Bankbook::tr("FILE");
-  parser.addPositionalArgument(fileArgument,
-                               Bankbook::tr("The book; standard input where it is left out or -."),
-                               u'[' + fileArgument + u']');
-
-  QTextStream err(stderr);
+  auto const file = Bankbook::tr("FILE");
+  parser.addPositionalArgument(
+      file, Bankbook::tr("The book. Without it, or with -, standard input is read."),
+      u'[' + file + u']');
   if (!parser.parse(QCoreApplication::arguments())) {
-    err << parser.errorText() << '\n';
-    return NotRun;
+    return tell(parser.errorText());
   }
-  if (parser.isSet(helpOption)) {
-    parser.showHelp();
+  if (!isLocaleKnown) {
+    return tell(Bankbook::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
   }
-  if (parser.isSet(QStringLiteral("version"))) {
-    parser.showVersion();
+  if (parser.isSet("help") || parser.isSet("version")) {
+    show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
+    return ended(allDone);
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
-    err << Bankbook::tr("Only one book can be read at a time.") << '\n';
-    return NotRun;
-  }
-  if (parser.isSet(quietOption)) {
-    QLoggingCategory::setFilterRules(QStringLiteral("default.info=false"));
+    return tell(Bankbook::tr("Only one book can be read at a time."));
   }
 
-  auto const readsStandardInput = files.isEmpty() || files.first() == QStringLiteral("-");
-  auto const name = readsStandardInput ? Bankbook::tr("standard input") : files.first();
-  QFile file(name);
-  if (readsStandardInput ? !file.open(stdin, QIODevice::ReadOnly)
-                         : !file.open(QIODevice::ReadOnly)) {
-    err << Bankbook::tr("%1 cannot be read: %2").arg(name, file.errorString()) << '\n';
-    return NotRun;
+  auto const readsStandardInput = files.isEmpty() || files.first() == u"-";
+  auto const isAtPrompt = readsStandardInput && isatty(STDIN_FILENO) == 1;
+  if (parser.isSet("quiet") || (isAtPrompt && !parser.isSet("verbose"))) {
+    QLoggingCategory::setFilterRules("default.info=false");
   }
-  return run(file, name, parser.isSet(strictOption),
-             readsStandardInput && isatty(STDIN_FILENO) == 1);
+  auto const name = readsStandardInput ? Bankbook::tr("standard input") : files.first();
+  auto* const book = readsStandardInput ? stdin : std::fopen(QFile::encodeName(name), "r");
+  return book != nullptr ? run(book, name, parser.isSet("strict"), isAtPrompt) : notRead(name);
 }

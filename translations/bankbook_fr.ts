@@ -1,0 +1,249 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Bankbook</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Stop at the first line that is refused.</source>
+        <translation>S’arrêter à la première ligne refusée.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s books, one command a line:</source>
+        <translation>Tient les comptes d’un ménage, à raison d’une commande par ligne&#xa0;:</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>Only one book can be read at a time.</source>
+        <translation>Un seul livre de comptes peut être lu à la fois.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation>La ligne dépasse 1&#xa0;Mio.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation>Tapez help pour voir les commandes, quit pour quitter.</translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation>Afficher les textes, les montants et les dates selon ces paramètres régionaux.</translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation>Ne pas signaler les modifications apportées aux banques.</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation>Signaler les modifications apportées aux banques, même en mode interactif.</translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation>Le livre de comptes; s’il est omis ou remplacé par -, l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation>Les paramètres régionaux «&#xa0;%1&#xa0;» n’existent pas.</translation>
+    </message>
+</context>
+<context>
+    <name>Book</name>
+    <message>
+        <source>NAME NUMBER KIND</source>
+        <translation>NOM NUMÉRO TYPE</translation>
+    </message>
+    <message>
+        <source>NAME [NUMBER=KIND ...]</source>
+        <translation>NOM [NUMÉRO=TYPE ...]</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOM</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>NUMÉRO</translation>
+    </message>
+    <message>
+        <source>NUMBER DATE AMOUNT CURRENCY</source>
+        <translation>NUMÉRO DATE MONTANT DEVISE</translation>
+    </message>
+    <message>
+        <source>NAME [NUMBER]</source>
+        <translation>NOM [NUMÉRO]</translation>
+    </message>
+    <message>
+        <source>FROM TO</source>
+        <translation>ANCIEN NOUVEAU</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>Banque</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Compte</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Classe</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Solde</translation>
+    </message>
+    <message>
+        <source>Reconciled</source>
+        <translation>Rapproché le</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>fermée</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>ouverte</translation>
+    </message>
+    <message>
+        <source>asset</source>
+        <translation>actif</translation>
+    </message>
+    <message>
+        <source>liability</source>
+        <translation>passif</translation>
+    </message>
+    <message>
+        <source>NUMBER FILE [ACCOUNTID]</source>
+        <translation>NUMÉRO FICHIER [IDENTIFIANT]</translation>
+    </message>
+    <message>
+        <source>KIND is one of: %1.</source>
+        <translation>Valeurs possibles de TYPE&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>BookError</name>
+    <message>
+        <source>The account number %1 is given twice.</source>
+        <translation>Le numéro de compte %1 est indiqué deux fois.</translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1.</source>
+        <translation>Le numéro de compte %1 n’est associé à aucune banque.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1</source>
+        <translation>La commande s’écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos; that can be read.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est introuvable ou illisible.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is not kept in %2.</source>
+        <translation>Le solde du compte numéro %1 n’est pas tenu en %2.</translation>
+    </message>
+    <message>
+        <source>The line contains a NUL character.</source>
+        <translation>La ligne contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>The line is not UTF-8 text.</source>
+        <translation>La ligne n’est pas du texte UTF-8.</translation>
+    </message>
+    <message>
+        <source>A quoted word does not end.</source>
+        <translation>Il manque un guillemet fermant.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an account number.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte; les types sont&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date de la forme 2026-01-31.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency code such as CAD.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un code de devise comme CAD.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2 (séparateur décimal&#xa0;: point).</translation>
+    </message>
+    <message>
+        <source>The file is not an OFX file.</source>
+        <translation>Le fichier n’est pas un fichier OFX.</translation>
+    </message>
+    <message>
+        <source>The file is several OFX files in one.</source>
+        <translation>Le fichier est formé de plusieurs fichiers OFX.</translation>
+    </message>
+    <message>
+        <source>The file is cut short or damaged.</source>
+        <translation>Le fichier est tronqué ou endommagé.</translation>
+    </message>
+    <message>
+        <source>The statement has no %1.</source>
+        <translation>Le champ %1 est absent du relevé.</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation>Le champ %1 du relevé est illisible&#xa0;: «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
+        <translation>Le fichier est en UTF-16 ou en UTF-32, un codage qui ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The file has no statement of a bank account or a credit card.</source>
+        <translation>Le fichier ne contient aucun relevé de compte bancaire ou de carte de crédit.</translation>
+    </message>
+    <message>
+        <source>The file has statements that differ, of the accounts: %1.</source>
+        <translation>Le fichier contient des relevés différents, pour les comptes&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
+        <translation>Le fichier ne contient pas de relevé du compte «&#xa0;%1&#xa0;», mais de&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+</TS>
