@@ -1,5 +1,6 @@
-#include "BookReader.hpp"
 #include "Statement.hpp"
+
+#include "BookReader.hpp"
 
 #include <cstddef>
 #include <cstdint>

@@ -2,69 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1">
 <context>
-    <name>Bankbook</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop at the first line that is refused.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Keeps a household&apos;s books, one command a line:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Standard output cannot be written.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show texts, amounts and dates as in this locale.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no locale &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>Book</name>
     <message>
         <source>NAME NUMBER KIND</source>
@@ -144,6 +81,66 @@
     </message>
     <message>
         <source>KIND is one of: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s books, one command a line:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at the first line that is refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one book can be read at a time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard input</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

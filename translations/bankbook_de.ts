@@ -2,69 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE">
 <context>
-    <name>Bankbook</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 kann nicht gelesen werden: %2</translation>
-    </message>
-    <message>
-        <source>Stop at the first line that is refused.</source>
-        <translation>Hält bei der ersten abgelehnten Zeile an.</translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation>Zeigt diese Hilfe an.</translation>
-    </message>
-    <message>
-        <source>Keeps a household&apos;s books, one command a line:</source>
-        <translation>Führt die Bücher eines Haushalts, ein Befehl je Zeile:</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>DATEI</translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
-        <translation>Es kann nur ein Haushaltsbuch auf einmal gelesen werden.</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>Standardeingabe</translation>
-    </message>
-    <message>
-        <source>Standard output cannot be written.</source>
-        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation>Die Zeile ist länger als 1 MiB.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation>help zeigt die Befehle an, quit beendet das Programm.</translation>
-    </message>
-    <message>
-        <source>Show texts, amounts and dates as in this locale.</source>
-        <translation>Zeigt Texte, Beträge und Daten wie in diesem Gebietsschema an.</translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation>Unterdrückt die Meldungen über Änderungen an Banken.</translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
-        <translation>Meldet Änderungen an Banken, auch bei interaktiver Eingabe.</translation>
-    </message>
-    <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation>Das Haushaltsbuch; ohne Angabe oder bei - die Standardeingabe.</translation>
-    </message>
-    <message>
-        <source>There is no locale &apos;%1&apos;.</source>
-        <translation>Das Gebietsschema „%1“ gibt es nicht.</translation>
-    </message>
-</context>
-<context>
     <name>Book</name>
     <message>
         <source>NAME NUMBER KIND</source>
@@ -145,6 +82,66 @@
     <message>
         <source>KIND is one of: %1.</source>
         <translation>Mögliche Werte für ART: %1.</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation>Die Zeile ist länger als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation>help zeigt die Befehle an, quit beendet das Programm.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation>Zeigt Texte, Beträge und Daten wie in diesem Gebietsschema an.</translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s books, one command a line:</source>
+        <translation>Führt die Bücher eines Haushalts, ein Befehl je Zeile:</translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation>Unterdrückt die Meldungen über Änderungen an Banken.</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation>Meldet Änderungen an Banken, auch bei interaktiver Eingabe.</translation>
+    </message>
+    <message>
+        <source>Stop at the first line that is refused.</source>
+        <translation>Hält bei der ersten abgelehnten Zeile an.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Zeigt diese Hilfe an.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation>Das Haushaltsbuch; ohne Angabe oder bei - die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation>Das Gebietsschema „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Only one book can be read at a time.</source>
+        <translation>Es kann nur ein Haushaltsbuch auf einmal gelesen werden.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>Standardeingabe</translation>
     </message>
 </context>
 <context>

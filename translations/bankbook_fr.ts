@@ -2,69 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr">
 <context>
-    <name>Bankbook</name>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
-    </message>
-    <message>
-        <source>Stop at the first line that is refused.</source>
-        <translation>S’arrêter à la première ligne refusée.</translation>
-    </message>
-    <message>
-        <source>Show this help.</source>
-        <translation>Afficher cette aide.</translation>
-    </message>
-    <message>
-        <source>Keeps a household&apos;s books, one command a line:</source>
-        <translation>Tient les comptes d’un ménage, à raison d’une commande par ligne&#xa0;:</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>FICHIER</translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
-        <translation>Un seul livre de comptes peut être lu à la fois.</translation>
-    </message>
-    <message>
-        <source>standard input</source>
-        <translation>entrée standard</translation>
-    </message>
-    <message>
-        <source>Standard output cannot be written.</source>
-        <translation>Impossible d’écrire sur la sortie standard.</translation>
-    </message>
-    <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation>La ligne dépasse 1&#xa0;Mio.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation>Tapez help pour voir les commandes, quit pour quitter.</translation>
-    </message>
-    <message>
-        <source>Show texts, amounts and dates as in this locale.</source>
-        <translation>Afficher les textes, les montants et les dates selon ces paramètres régionaux.</translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation>Ne pas signaler les modifications apportées aux banques.</translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
-        <translation>Signaler les modifications apportées aux banques, même en mode interactif.</translation>
-    </message>
-    <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation>Le livre de comptes; s’il est omis ou remplacé par -, l’entrée standard.</translation>
-    </message>
-    <message>
-        <source>There is no locale &apos;%1&apos;.</source>
-        <translation>Les paramètres régionaux «&#xa0;%1&#xa0;» n’existent pas.</translation>
-    </message>
-</context>
-<context>
     <name>Book</name>
     <message>
         <source>NAME NUMBER KIND</source>
@@ -145,6 +82,66 @@
     <message>
         <source>KIND is one of: %1.</source>
         <translation>Valeurs possibles de TYPE&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Standard output cannot be written.</source>
+        <translation>Impossible d’écrire sur la sortie standard.</translation>
+    </message>
+    <message>
+        <source>The line is longer than 1 MiB.</source>
+        <translation>La ligne dépasse 1&#xa0;Mio.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave.</source>
+        <translation>Tapez help pour voir les commandes, quit pour quitter.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Show texts, amounts and dates as in this locale.</source>
+        <translation>Afficher les textes, les montants et les dates selon ces paramètres régionaux.</translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s books, one command a line:</source>
+        <translation>Tient les comptes d’un ménage, à raison d’une commande par ligne&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Do not report the changes of banks.</source>
+        <translation>Ne pas signaler les modifications apportées aux banques.</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks, at the prompt too.</source>
+        <translation>Signaler les modifications apportées aux banques, même en mode interactif.</translation>
+    </message>
+    <message>
+        <source>Stop at the first line that is refused.</source>
+        <translation>S’arrêter à la première ligne refusée.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>The book. Without it, or with -, standard input is read.</source>
+        <translation>Le livre de comptes; s’il est omis ou remplacé par -, l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>There is no locale &apos;%1&apos;.</source>
+        <translation>Les paramètres régionaux «&#xa0;%1&#xa0;» n’existent pas.</translation>
+    </message>
+    <message>
+        <source>Only one book can be read at a time.</source>
+        <translation>Un seul livre de comptes peut être lu à la fois.</translation>
+    </message>
+    <message>
+        <source>standard input</source>
+        <translation>entrée standard</translation>
     </message>
 </context>
 <context>

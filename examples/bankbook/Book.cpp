@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <limits>
 #include <sstream>
 
 using namespace orv::banking;
@@ -28,20 +27,6 @@ QString streamForm(T const& value)
   return QString::fromStdString(text.str());
 }
 
-// The bank that NAME [NUMBER=KIND ...] describes.
-Bank toBank(QStringList const& words)
-{
-  std::map<AccountNumber, BankAccountTypes> accounts;
-  for (auto const& word : words.mid(1)) {
-    auto const number = toAccountNumber(word.section(u'=', 0, 0));
-    if (!accounts.emplace(number, toKind(word.section(u'=', 1))).second) {
-      throw BookError(
-          BookError::tr("The account number %1 is given twice.").arg(presentationText(number)));
-    }
-  }
-  return Bank(BankName(words[0]), std::move(accounts), false);
-}
-
 QString noHolderText(AccountNumber const& number)
 {
   return BookError::tr("No bank holds the account number %1.").arg(presentationText(number));
@@ -52,40 +37,35 @@ QString noHolderText(AccountNumber const& number)
 struct Book::Command
 {
   char const* arguments; // the source text, for the translator
-  qsizetype fewestWords;
-  qsizetype mostWords;
+  qsizetype fewest;      // words
+  qsizetype most;        // -1 for any number
   void (Book::*run)(QStringList const& words);
 
   QString written(QString const& name) const
   {
-    return mostWords == 0 ? name : name + u' ' + tr(arguments);
+    return most == 0 ? name : name + u' ' + tr(arguments);
   }
 };
 
-std::map<QString, Book::Command> const& Book::commands()
-{
-  constexpr auto any = std::numeric_limits<qsizetype>::max();
-  static std::map<QString, Command> const commands{
-      {"add", {QT_TR_NOOP("NAME NUMBER KIND"), 3, 3, &Book::add}},
-      {"bank", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, any, &Book::bank}},
-      {"close", {QT_TR_NOOP("NAME"), 1, 1, &Book::close}},
-      {"find", {QT_TR_NOOP("NUMBER"), 1, 1, &Book::find}},
-      {"list", {"", 0, 0, &Book::list}},
-      {"open", {QT_TR_NOOP("NAME"), 1, 1, &Book::open}},
-      {"print", {"", 0, 0, &Book::print}},
-      {"reconcile", {QT_TR_NOOP("NUMBER DATE AMOUNT CURRENCY"), 4, 4, &Book::reconcile}},
-      {"remove", {QT_TR_NOOP("NAME [NUMBER]"), 1, 2, &Book::remove}},
-      {"rename", {QT_TR_NOOP("FROM TO"), 2, 2, &Book::rename}},
-      {"statement", {QT_TR_NOOP("NUMBER FILE [ACCOUNTID]"), 2, 3, &Book::statement}},
-      {"update", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, any, &Book::update}},
-  };
-  return commands;
-}
+std::map<QString, Book::Command> const Book::commands_{
+    {"add", {QT_TR_NOOP("NAME NUMBER KIND"), 3, 3, &Book::add}},
+    {"bank", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, -1, &Book::bank}},
+    {"close", {QT_TR_NOOP("NAME"), 1, 1, &Book::close}},
+    {"find", {QT_TR_NOOP("NUMBER"), 1, 1, &Book::find}},
+    {"list", {"", 0, 0, &Book::list}},
+    {"open", {QT_TR_NOOP("NAME"), 1, 1, &Book::open}},
+    {"print", {"", 0, 0, &Book::print}},
+    {"reconcile", {QT_TR_NOOP("NUMBER DATE AMOUNT CURRENCY"), 4, 4, &Book::reconcile}},
+    {"remove", {QT_TR_NOOP("NAME [NUMBER]"), 1, 2, &Book::remove}},
+    {"rename", {QT_TR_NOOP("FROM TO"), 2, 2, &Book::rename}},
+    {"statement", {QT_TR_NOOP("NUMBER FILE [ACCOUNTID]"), 2, 3, &Book::statement}},
+    {"update", {QT_TR_NOOP("NAME [NUMBER=KIND ...]"), 1, -1, &Book::update}},
+};
 
 QString Book::usage()
 {
   QString text;
-  for (auto const& [name, command] : commands()) {
+  for (auto const& [name, command] : commands_) {
     text += QStringLiteral("  ") + command.written(name) + u'\n';
   }
   return text + u'\n' + tr("KIND is one of: %1.").arg(kindsOfAccount());
@@ -98,12 +78,12 @@ QString Book::execute(QByteArrayView line)
     return {};
   }
   auto const name = words.takeFirst();
-  auto const found = commands().find(name);
-  if (found == commands().end()) {
+  auto const found = commands_.find(name);
+  if (found == commands_.end()) {
     throw BookError(BookError::tr("There is no command '%1'.").arg(name));
   }
   auto const& command = found->second;
-  if (words.size() < command.fewestWords || words.size() > command.mostWords) {
+  if (words.size() < command.fewest || (command.most >= 0 && words.size() > command.most)) {
     throw BookError(BookError::tr("The command is written: %1").arg(command.written(name)));
   }
   shown_.clear();
@@ -114,11 +94,6 @@ QString Book::execute(QByteArrayView line)
 void Book::add(QStringList const& words)
 {
   banks_.add(BankName(words[0]), toAccountNumber(words[1]), toKind(words[2]));
-}
-
-void Book::bank(QStringList const& words)
-{
-  banks_.add(toBank(words));
 }
 
 void Book::find(QStringList const& words)
@@ -169,9 +144,8 @@ void Book::remove(QStringList const& words)
     banks_.remove(name);
     dropBalances();
   } else {
-    auto const number = toAccountNumber(words[1]);
-    banks_.remove(name, number);
-    balances_.erase(number);
+    banks_.remove(name, toAccountNumber(words[1]));
+    balances_.erase(toAccountNumber(words[1]));
   }
 }
 
@@ -189,6 +163,19 @@ void Book::update(QStringList const& words)
 {
   banks_.update(toBank(words));
   dropBalances();
+}
+
+Bank Book::toBank(QStringList const& words)
+{
+  std::map<AccountNumber, BankAccountTypes> accounts;
+  for (auto const& word : words.mid(1)) {
+    auto const number = toAccountNumber(word.section(u'=', 0, 0));
+    if (!accounts.emplace(number, toKind(word.section(u'=', 1))).second) {
+      throw BookError(
+          BookError::tr("The account number %1 is given twice.").arg(presentationText(number)));
+    }
+  }
+  return Bank(BankName(words[0]), std::move(accounts), false);
 }
 
 std::optional<BankAccount> Book::accountOf(AccountNumber const& number) const
@@ -213,10 +200,10 @@ BankAccount Book::accountOnRecord(QString const& word) const
 void Book::record(BankAccount const& account, Statement const& statement)
 {
   auto const& number = account.accountNumberBankType.accountNumber;
-  ReconciledBankAccount reconciled(account, {}, std::nullopt);
-  if (auto const known = balances_.find(number); known != balances_.end()) {
-    reconciled = {account, known->second.balance, known->second.occurredOn};
-  }
+  auto const found = balances_.find(number);
+  auto const known = found != balances_.end() ? found->second : ReconciledBalance();
+  ReconciledBankAccount reconciled(account, known.balance,
+                                   known.occurredOn); // any date is later than none
   try {
     reconciled.reconcile(statement.date, statement.balance);
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users

@@ -36,10 +36,10 @@ private:
   using BankName = orv::banking::BankName;
 
   struct Command;
-  static std::map<QString, Command> const& commands();
+  static std::map<QString, Command> const commands_;
 
   void add(QStringList const& words);
-  void bank(QStringList const& words);
+  void bank(QStringList const& words) { banks_.add(toBank(words)); }
   void close(QStringList const& words) { banks_.close(BankName(words[0])); }
   void find(QStringList const& words);
   void list(QStringList const& words);
@@ -50,6 +50,9 @@ private:
   void rename(QStringList const& words) { banks_.rename(BankName(words[0]), BankName(words[1])); }
   void statement(QStringList const& words);
   void update(QStringList const& words);
+
+  // The bank that NAME [NUMBER=KIND ...] describes.
+  static orv::banking::Bank toBank(QStringList const& words);
 
   std::optional<orv::banking::BankAccount>
   accountOf(orv::accounting::AccountNumber const& number) const;

@@ -38,28 +38,21 @@ QStringList toWords(QString const& line)
   QString word;
   bool inWord = false;
   bool inQuotes = false;
-  for (qsizetype i = 0; i < line.size(); ++i) {
+  for (qsizetype i = 0; i < line.size() && (inWord || line[i] != u'#'); ++i) {
     auto const c = line[i];
     auto const isBlank = c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
-    if (!inQuotes && (isBlank || (c == u'#' && !inWord))) {
-      if (inWord) {
-        words += std::exchange(word, {});
-        inWord = false;
-      }
-      if (c == u'#') {
-        break;
-      }
-      continue;
+    if (inWord && isBlank && !inQuotes) {
+      words += std::exchange(word, {});
     }
-    inWord = true;
+    inWord = inQuotes || !isBlank;
     if (c == u'"') {
       inQuotes = !inQuotes;
-      continue;
+    } else if (inWord) {
+      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
+      auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
+      word += isEscape ? next : c;
+      i += isEscape ? 1 : 0;
     }
-    auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
-    auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
-    word += isEscape ? next : c;
-    i += isEscape ? 1 : 0;
   }
   if (inQuotes) {
     throw BookError(BookError::tr("A quoted word does not end."));

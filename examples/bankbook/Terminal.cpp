@@ -2,7 +2,6 @@
 
 #include <QLocale>
 
-#include <algorithm>
 #include <wchar.h>
 
 namespace {
@@ -50,7 +49,7 @@ QString toTable(QList<QStringList> rows, QByteArrayView alignments)
   for (qsizetype column = 0; column < alignments.size(); ++column) {
     qsizetype width = 0;
     for (auto const& row : rows) {
-      width = std::max(width, widthOf(printable(row.value(column))));
+      width = qMax(width, widthOf(printable(row.value(column))));
     }
     rows[1][column] = QString(width, u'-');
     for (qsizetype i = 0; i < rows.size(); ++i) {

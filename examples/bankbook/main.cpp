@@ -26,21 +26,11 @@ constexpr int allDone = 0;
 constexpr int linesRefused = 1;
 constexpr int notRun = 2;
 
-struct Bankbook
-{
-  Q_DECLARE_TR_FUNCTIONS(Bankbook)
-};
-
 // Writes a line to standard error. Returns the status for an end because of it.
 int tell(QString const& text)
 {
   QTextStream(stderr) << printable(text) << '\n';
   return notRun;
-}
-
-int notRead(QString const& name)
-{
-  return tell(Bankbook::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
 }
 
 // Writes the text to standard output. Returns whether all that was shown so far has been taken.
@@ -54,7 +44,7 @@ bool show(QString const& text)
 // Returns `status`, or another one where standard output did not take what was shown.
 int ended(int status)
 {
-  return show({}) ? status : tell(Bankbook::tr("Standard output cannot be written."));
+  return show({}) ? status : tell(Book::tr("Standard output cannot be written."));
 }
 
 // All texts depend on the locale, those of the other options too: so it is set before them, by a parser
@@ -106,13 +96,14 @@ bool readLine(std::FILE* file, std::string& line)
     }
   }
   if (line.size() > longest) {
-    throw BookError(Bankbook::tr("The line is longer than 1 MiB."));
+    throw BookError(Book::tr("The line is longer than 1 MiB."));
   }
   return !isEnd;
 }
 
-// Carries out the lines of `file` one by one; `name` stands before each refusal. At a prompt, what guides
-// a person is kept apart from the results, which may go elsewhere.
+// Carries out the lines of `file`, one by one; `name` stands before each refusal. A null pointer is a file
+// that cannot be opened. At a prompt, what guides a person is kept apart from the results, which may go
+// elsewhere.
 int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
 {
   Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
@@ -123,15 +114,11 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
       QTextStream(stderr) << text;
     }
   };
-  guide(Bankbook::tr("Type help for the commands, or quit to leave.") + u'\n');
-  for (int number = 1; status == allDone || !isStrict; ++number) {
+  guide(Book::tr("Type help for the commands, or quit to leave.") + u'\n');
+  for (int number = 1; file != nullptr && (status == allDone || !isStrict); ++number) {
     guide("bankbook> ");
     try {
-      if (!readLine(file, line)) {
-        guide("\n");
-        break;
-      }
-      if (isAtPrompt && line == "quit") {
+      if (!readLine(file, line) || (isAtPrompt && line == "quit")) {
         break;
       }
       if (isAtPrompt && line == "help") {
@@ -145,7 +132,10 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
       status = linesRefused;
     }
   }
-  return std::ferror(file) != 0 ? notRead(name) : ended(status);
+  guide(line.empty() ? "\n" : ""); // where no quit ended the line
+  return file != nullptr && std::ferror(file) == 0
+             ? ended(status)
+             : tell(Book::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
 }
 
 } // namespace
@@ -153,7 +143,6 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
 int main(int argc, char* argv[])
 {
   QCoreApplication const application(argc, argv);
-  QCoreApplication::setApplicationName("bankbook");
   qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context,
                             QString const& text) { tell(qFormatLogMessage(type, context, text)); });
 
@@ -161,27 +150,27 @@ int main(int argc, char* argv[])
   auto const isLocaleKnown = setLocale(localeOption);
   installTranslators();
 
-  localeOption.setDescription(Bankbook::tr("Show texts, amounts and dates as in this locale."));
+  localeOption.setDescription(Book::tr("Show texts, amounts and dates as in this locale."));
   QCommandLineParser parser;
-  parser.setApplicationDescription(Bankbook::tr("Keeps a household's books, one command a line:") +
+  parser.setApplicationDescription(Book::tr("Keeps a household's books, one command a line:") +
                                    "\n\n" + Book::usage());
   parser.addOptions({
       localeOption,
-      {"quiet", Bankbook::tr("Do not report the changes of banks.")},
-      {"verbose", Bankbook::tr("Report the changes of banks, at the prompt too.")},
-      {"strict", Bankbook::tr("Stop at the first line that is refused.")},
-      {{"h", "help"}, Bankbook::tr("Show this help.")},
+      {"quiet", Book::tr("Do not report the changes of banks.")},
+      {"verbose", Book::tr("Report the changes of banks, at the prompt too.")},
+      {"strict", Book::tr("Stop at the first line that is refused.")},
+      {{"h", "help"}, Book::tr("Show this help.")},
   });
   parser.addVersionOption();
-  auto const file = Bankbook::tr("FILE");
-  parser.addPositionalArgument(
-      file, Bankbook::tr("The book. Without it, or with -, standard input is read."),
-      u'[' + file + u']');
+  auto const file = Book::tr("FILE");
+  parser.addPositionalArgument(file,
+                               Book::tr("The book. Without it, or with -, standard input is read."),
+                               u'[' + file + u']');
   if (!parser.parse(QCoreApplication::arguments())) {
     return tell(parser.errorText());
   }
   if (!isLocaleKnown) {
-    return tell(Bankbook::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
+    return tell(Book::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
   }
   if (parser.isSet("help") || parser.isSet("version")) {
     show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
@@ -189,7 +178,7 @@ int main(int argc, char* argv[])
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
-    return tell(Bankbook::tr("Only one book can be read at a time."));
+    return tell(Book::tr("Only one book can be read at a time."));
   }
 
   auto const readsStandardInput = files.isEmpty() || files.first() == u"-";
@@ -197,7 +186,7 @@ int main(int argc, char* argv[])
   if (parser.isSet("quiet") || (isAtPrompt && !parser.isSet("verbose"))) {
     QLoggingCategory::setFilterRules("default.info=false");
   }
-  auto const name = readsStandardInput ? Bankbook::tr("standard input") : files.first();
+  auto const name = readsStandardInput ? Book::tr("standard input") : files.first();
   auto* const book = readsStandardInput ? stdin : std::fopen(QFile::encodeName(name), "r");
-  return book != nullptr ? run(book, name, parser.isSet("strict"), isAtPrompt) : notRead(name);
+  return run(book, name, parser.isSet("strict"), isAtPrompt);
 }
