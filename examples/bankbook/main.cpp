@@ -106,8 +106,9 @@ bool readLine(std::FILE* file, std::string& line)
 // elsewhere.
 int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
 {
-  Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
+  auto error = errno;
   auto status = allDone;
+  Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
   std::string line;
   auto const guide = [&](QString const& text) {
     if (isAtPrompt) {
@@ -119,6 +120,7 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
     guide("bankbook> ");
     try {
       if (!readLine(file, line) || (isAtPrompt && line == "quit")) {
+        error = errno;
         break;
       }
       if (isAtPrompt && line == "help") {
@@ -135,7 +137,7 @@ int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
   guide(line.empty() ? "\n" : ""); // where no quit ended the line
   return file != nullptr && std::ferror(file) == 0
              ? ended(status)
-             : tell(Book::tr("%1 cannot be read: %2").arg(name, qt_error_string(errno)));
+             : tell(Book::tr("%1 cannot be read: %2").arg(name, qt_error_string(error)));
 }
 
 } // namespace
