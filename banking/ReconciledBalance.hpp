@@ -11,8 +11,8 @@ namespace orv::banking {
 
 /// A balance and the date on which it occurred.
 ///
-/// This is plain data: nothing is checked. Like an assignment of `mintar::Money`, an assignment that
-/// would change the currency throws `std::invalid_argument`.
+/// This is plain data: nothing is checked. Like an assignment of `mintar::Money`, an assignment
+/// that would change the currency throws `std::invalid_argument`.
 ///
 /// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
