@@ -19,6 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     try {
       book.execute(line);
       before = shown();
+      continue;
     } catch (BookError const&) { // anything else ends the program
     } catch (orv::banking::BankError const&) {
     }

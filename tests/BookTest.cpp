@@ -60,6 +60,7 @@ TEST(Book, RefusesLinesAndStaysAsItWas)
       {"find 4294967296", "'4294967296' is not an account number."},
       {"reconcile 2 2026-01-31 1 CAD", "No bank holds the account number 2."},
       {"reconcile 1 2026/02/28 1 CAD", "'2026/02/28' is not a date such as 2026-01-31."},
+      {"reconcile 1 2026-01-31- 1 CAD", "'2026-01-31-' is not a date such as 2026-01-31."},
       {"reconcile 1 2026-02-28 1 cad", "'cad' is not a currency code such as CAD."},
       {"reconcile 1 2026-02-28 1.234 CAD", "'1.234' is not an amount of CAD."},
       {"reconcile 1 2026-02-28 1 EUR", "The balance of the account number 1 is not kept in EUR."},

@@ -39,9 +39,6 @@ QList<Tag> tagsIn(QString const& content)
     if (!name.isEmpty()) {
       tags += {name, isEnd, match.capturedStart(), match.capturedEnd()};
     }
-    if (!name.isEmpty() && match.capturedView().endsWith(u"/>")) {
-      tags += {name, true, match.capturedEnd(), match.capturedEnd()};
-    }
     if (isEnd && name == u"OFX") {
       break;
     }
@@ -68,7 +65,6 @@ QList<Values> valuesIn(QString const& content)
     throw BookError(starts == 0 ? BookError::tr("The file is not an OFX file.")
                                 : BookError::tr("The file is several OFX files in one."));
   }
-  BookError const cutShort(BookError::tr("The file is cut short or damaged."));
 
   // Backwards, as it takes the end tag to tell an element that holds others from one that holds a value
   // and may do without.
@@ -80,7 +76,7 @@ QList<Values> valuesIn(QString const& content)
     auto const isStatement = name == u"STMTRS" || name == u"CCSTMTRS";
     auto const hasEnd = isEnd || parents.endsWith(name);
     if ((!hasEnd && (isStatement || name == u"OFX")) || (isEnd && isStatement && depth > 0)) {
-      throw cutShort;
+      throw BookError(BookError::tr("The file is cut short or damaged."));
     }
     if (isEnd) {
       parents += name;
@@ -99,7 +95,7 @@ QList<Values> valuesIn(QString const& content)
       statements.first()[place.section("ACCTFROM/", -1)].prepend(valueOf(text) + u' ');
     }
   }
-  return depth == 0 ? statements : throw cutShort;
+  return statements;
 }
 
 // The kinds of account that a type of OFX stands for. A goal is money set aside.
