@@ -13,7 +13,6 @@
 
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
-using orv::foundation::LocaleAware;
 using orv::foundation::presentationText; // of a date, whose own namespace has none
 
 namespace {
@@ -100,7 +99,8 @@ void Book::find(QStringList const& words)
 {
   auto const number = toAccountNumber(words[0]);
   auto const account = accountOf(number);
-  auto const text = account ? presentationText(*account, LocaleAware::Yes) : noHolderText(number);
+  auto const text = account ? presentationText(*account, orv::foundation::LocaleAware::Yes)
+                            : noHolderText(number);
   shown_ = printable(text) + u'\n';
 }
 
@@ -202,8 +202,8 @@ void Book::record(BankAccount const& account, Statement const& statement)
   auto const& number = account.accountNumberBankType.accountNumber;
   auto const found = balances_.find(number);
   auto const known = found != balances_.end() ? found->second : ReconciledBalance();
-  ReconciledBankAccount reconciled(account, known.balance,
-                                   known.occurredOn); // any date is later than none
+  // Any date is later than none.
+  ReconciledBankAccount reconciled(account, known.balance, known.occurredOn);
   try {
     reconciled.reconcile(statement.date, statement.balance);
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users

@@ -9,7 +9,6 @@
 #include <QByteArrayView>
 #include <QCoreApplication>
 #include <QDir>
-#include <QString>
 #include <QStringList>
 
 #include <map>

@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-using orv::banking::BankAccountTypes;
-using enum BankAccountTypes;
+using enum orv::banking::BankAccountTypes;
 
 namespace {
 
@@ -70,7 +69,7 @@ orv::accounting::AccountNumber toAccountNumber(QString const& word)
   return orv::accounting::AccountNumber(integer);
 }
 
-BankAccountTypes toKind(QString const& word)
+orv::banking::BankAccountTypes toKind(QString const& word)
 {
   try {
     return orv::banking::toBankAccountTypes(word);

@@ -7,7 +7,6 @@
 #include <QByteArrayView>
 #include <QCoreApplication>
 #include <QDate>
-#include <QString>
 #include <QStringList>
 
 #include <stdexcept>

@@ -3,7 +3,6 @@
 #include <banking/BankAccountTypes.hpp>
 #include <mintar/Money.hpp>
 
-#include <QByteArray>
 #include <QDate>
 #include <QString>
 
@@ -18,9 +17,8 @@ struct Statement
   friend bool operator==(Statement const& lhs, Statement const& rhs) = default;
 };
 
-/// Reads a statement from an OFX file's content: SGML (version 1) or XML (version 2), in any encoding
-/// that contains ASCII. Among several, it is the one of the bank's `accountId`, unless that is empty,
-/// and for the kind of `account`.
+/// Reads a statement from an OFX file's content. Among several, it is the one of the bank's
+/// `accountId`, unless that is empty, and for the kind of `account`.
 ///
 /// \throws BookError if there is no such statement or several that differ, or if the file or what the
 ///     statement says cannot be relied on
