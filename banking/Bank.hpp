@@ -76,7 +76,8 @@ public:
 
   /// Adds an account, or changes its kind if the bank holds the number already.
   ///
-  /// \throws std::logic_error if `type` is not one of the enumerators
+  /// \throws std::logic_error if `type` is not one of the enumerators; the log message then ends
+  ///         before the kind
   /// \throws BankError if `number` is invalid
   /// \throws BankError if `type` is `Unknown`
   ///
@@ -109,7 +110,7 @@ ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 /// Writes the fields with their labels, in UTF-8.
 ///
 /// For example, `Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan,
-/// 200=>Savings), Is Closed: false)`. Kinds are in the user's language. The stream is left in
+/// 200=>Savings), Is Closed: false)`, with this last parenthesis. Kinds are in the user's language. The stream is left in
 /// `std::boolalpha` mode.
 ///
 /// \throws std::logic_error if a kind is not one of the enumerators; the text before that kind has

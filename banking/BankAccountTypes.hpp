@@ -21,6 +21,8 @@ namespace orv::banking {
 
 /// The kind of an account that a bank holds.
 ///
+/// A text in the user's language is that of the installed translator, or else English.
+///
 /// A value outside these enumerators is a mistake of the program: each function that reads the kind
 /// throws `std::logic_error`, with a text in English for the programmer. `Unknown` is not such a
 /// value.
@@ -47,7 +49,8 @@ enum class BankAccountTypes : std::int32_t
 /// Returns the plain text of the kind, for example "Credit Card", which is the same in every
 /// locale.
 ///
-/// Programs store this text. The string refers to static data; nothing is allocated.
+/// Programs store this text. It is one of "Unknown", "Chequeing", "Credit Card", "Loan", "Savings"
+/// and "Goal". The string refers to static data; nothing is allocated.
 ///
 /// \throws std::logic_error if `type` is not one of the enumerators
 [[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
@@ -62,7 +65,8 @@ enum class BankAccountTypes : std::int32_t
 /// The plain texts are compared first, then the texts in the user's language. Both must be equal to
 /// `text` letter for letter: case and spaces matter. "Unknown" returns `Unknown`.
 ///
-/// \throws std::logic_error if no kind has this text
+/// \throws std::logic_error if no kind has this text; a program that reads stored texts catches it
+///         and shows a text of its own
 [[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
 
 /// Returns the class of ledger account that the kind belongs to: `Asset`, `Liability`, or zero for

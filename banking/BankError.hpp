@@ -13,13 +13,18 @@ class BankName;
 
 /// The error that reports a broken banking rule.
 ///
-/// A call that throws it has changed nothing, apart from arguments passed with `std::move`. `what()` names the bank and the rule, in UTF-8. It is
-/// all that can be read from the error.
+/// A call that throws it has changed nothing, apart from arguments passed with `std::move`. `what()`
+/// names the bank and the rule, in UTF-8: "There is an issue with the bank 'Elm'. Cannot close a bank
+/// that is already closed." This text is all that the error holds; `BankMap::find` returns the
+/// bank that holds a number.
 ///
 /// The text is in the language of the translator that is installed when the error is created, or in
-/// English. French and German come with the library, in `share/orv-banking/translations`: load one
-/// with `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, then install it with
-/// `QCoreApplication::installTranslator()`. Dates in the text are in the form of `QLocale()`.
+/// English. French and German come with the library: load one with
+/// `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, install it with
+/// `QCoreApplication::installTranslator()`, and keep it. The folder is
+/// `share/orv-banking/translations` below the installation prefix; CMake has it in
+/// `ORV_BANKING_TRANSLATIONS_DIR`, pkg-config in the variable `translationsdir`. Dates in the text
+/// follow `QLocale()`, not the translator.
 ///
 /// The page [Refusals](docs/refusals.md) lists every rule with its text.
 ///

@@ -27,8 +27,8 @@ namespace orv::banking {
 /// Names and numbers that are passed may be references into the registry.
 ///
 /// The registry does not check that a bank has a name: `add(Bank())` registers a bank under the
-/// empty name, and so does adding the same bank with `std::move` twice. A bank passed with
-/// `std::move` is moved from even if the call throws.
+/// empty name. A bank passed with `std::move` is moved from even if the call throws; do not add it
+/// again.
 ///
 /// Several threads may read the same registry. While one thread changes it, no other may use it.
 ///
