@@ -1,15 +1,12 @@
 #include "Book.hpp"
 
 #include "BookReader.hpp"
+#include "support/Log.hpp"
 
 #include <banking/BankError.hpp>
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
 // Whatever the bytes, each line of such a book is carried out, or refused with nothing changed.
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
   Book book;
   auto const shown = [&book] { return book.execute("list") + book.execute("print"); };
@@ -26,6 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     if (shown() != before) {
       std::abort();
     }
+    takeMessages();
   }
   return 0;
 }

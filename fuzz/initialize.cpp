@@ -1,13 +1,11 @@
 #include "support/Log.hpp"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 // What each fuzzer has in common: Qt is set up, and messages are kept.
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 {
   static QCoreApplication const application(*argc, *argv);
-  QLocale::setDefault(QLocale::c());
   qInstallMessageHandler(&keepMessage);
   return 0;
 }

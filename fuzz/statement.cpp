@@ -2,17 +2,12 @@
 
 #include "BookReader.hpp"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
-using orv::banking::BankAccountTypes;
-
 // Whatever the bytes, they are a statement of which everything is known, or are refused in words.
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
   QByteArray const content(reinterpret_cast<char const*>(data), static_cast<qsizetype>(size));
-  for (auto const kind : {BankAccountTypes::Chequeing, BankAccountTypes::CreditCard}) {
+  using enum orv::banking::BankAccountTypes;
+  for (auto const kind : {Chequeing, CreditCard}) {
     try {
       auto const statement = readStatement(content, {}, {orv::accounting::AccountNumber(1), kind});
       if (statement.accountId.isEmpty() || !statement.date.isValid() ||

@@ -6,7 +6,8 @@
 
 static_assert(std::is_base_of_v<orv::foundation::Error, BankError>);
 static_assert(std::is_same_v<decltype(BankName() <=> BankName()), std::strong_ordering>);
-static_assert(QTypeInfo<BankName>::isRelocatable && QTypeInfo<BankAccount>::isRelocatable);
+static_assert(QTypeInfo<BankName>::isRelocatable);
+static_assert(QTypeInfo<BankAccount>::isRelocatable);
 
 TEST(BankName, IsRefusedWhenBlank)
 {
@@ -34,7 +35,6 @@ TEST(BankName, IsOrderedByCodeUnitAndHashed)
   for (auto const& lhs : ordered) {
     for (auto const& rhs : ordered) {
       EXPECT_EQ(lhs <=> rhs, &lhs <=> &rhs);
-      EXPECT_EQ(lhs < rhs, &lhs < &rhs);
       EXPECT_EQ(lhs == rhs, &lhs == &rhs);
     }
   }
