@@ -46,6 +46,7 @@ TEST(ReconciledBankAccount, HoldsWhatIsNotRefused)
     other = std::move(self);
     ReconciledBankAccount copy(other);
     ReconciledBankAccount const moved(std::move(copy));
+    subject = ReconciledBankAccount({}, Currency("EUR")); // which has no date
     subject = moved;
     expectWritten(subject, "Bank Account: (" + streamed(account) + "), Balance: (" + balance +
                                ") Reconciled On: (" + date + ")");
