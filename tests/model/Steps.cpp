@@ -88,7 +88,8 @@ void changeBank(Draw const& draw, BankMap& map, Banks& banks)
   auto const kind = static_cast<BankAccountTypes>(draw(6));
 
   auto const hasBank = banks.contains(name);
-  auto const& key = hasBank ? map.bank(name).name() : name; // names may refer into the registry
+  // Names may refer into the registry.
+  auto const& key = hasBank && draw(2) > 0 ? map.bank(name).name() : name;
   auto const& held = hasBank ? banks[name].accounts() : bank.accounts();
   auto const isOpen = hasBank && !banks[name].isClosed();
   auto const isNew = !newName.isEmpty() && !banks.contains(newName);
