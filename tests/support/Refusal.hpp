@@ -25,7 +25,7 @@ struct Refusal
   QString message;
 };
 
-/// Expects each refusal in plain and in translated text, and that it leaves the subject as it was.
+/// Expects each refusal in plain and in translated text, and that it leaves the subject unchanged.
 template <typename Subject>
 void expectRefusals(Subject const& subject, auto const& refusals)
 {
