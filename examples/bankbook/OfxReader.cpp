@@ -61,7 +61,7 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
   auto const tags = tagsIn(content);
   auto const starts = std::count_if(
       tags.begin(), tags.end(), [](auto const& tag) { return tag.name == u"OFX" && !tag.isEnd; });
-  if (starts != 1 || content.indexOf(u"<OFX>", tags.last().end, Qt::CaseInsensitive) >= 0) {
+  if (starts != 1 || content.indexOf(u"<OFX", tags.last().end, Qt::CaseInsensitive) >= 0) {
     throw BookError(starts == 0 ? BookError::tr("The file is not an OFX file.")
                                 : BookError::tr("The file is several OFX files in one."));
   }
