@@ -1,6 +1,6 @@
 #pragma once
 
-// What the tests have in common; compiled once.
+// What the tests have in common.
 
 #include <banking/BankError.hpp>
 #include <banking/BankMap.hpp>
