@@ -85,6 +85,16 @@ QString toNonLocalisedText(BankAccountTypes const& type)
   return QString::fromRawData(text.data(), text.size());
 }
 
+std::optional<BankAccountTypes> fromNonLocalisedText(QString const& text)
+{
+  for (auto const type : recognitionOrder) {
+    if (text == kindOf(type).plainText) {
+      return type;
+    }
+  }
+  return std::nullopt;
+}
+
 QString presentationText(BankAccountTypes const& type)
 {
   return QObject::tr(kindOf(type).sourceText);
@@ -92,10 +102,8 @@ QString presentationText(BankAccountTypes const& type)
 
 BankAccountTypes toBankAccountTypes(QString const& text)
 {
-  for (auto const type : recognitionOrder) {
-    if (text == kindOf(type).plainText) {
-      return type;
-    }
+  if (auto const type = fromNonLocalisedText(text)) {
+    return *type;
   }
   for (auto const type : recognitionOrder) {
     if (text == presentationText(type)) {

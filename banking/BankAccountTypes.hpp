@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 
 class QDebug;
 class QString;
@@ -54,6 +55,13 @@ enum class BankAccountTypes : std::int32_t
 ///
 /// \throws std::logic_error if `type` is not one of the enumerators
 [[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
+
+/// Returns the kind that has this plain text, or nothing.
+///
+/// It reads what `toNonLocalisedText` returns, whatever the user's language: programs read stored
+/// kinds with it. The text must be equal letter for letter.
+[[nodiscard]] ORV_BANKING_EXPORT std::optional<BankAccountTypes>
+fromNonLocalisedText(QString const& text);
 
 /// Returns the text of the kind in the user's language.
 ///

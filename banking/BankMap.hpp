@@ -58,8 +58,16 @@ public:
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
 
-  /// An iterator over the banks, which are pairs of a name and a bank.
+  /// @{
+  /// The types of a range of banks, which are pairs of a name and a bank. None of them changes a bank.
+  using value_type = std::map<BankName, Bank>::value_type;
+  using size_type = std::map<BankName, Bank>::size_type;
+  using difference_type = std::map<BankName, Bank>::difference_type;
+  using reference = value_type const&;
+  using const_reference = value_type const&;
+  using iterator = std::map<BankName, Bank>::const_iterator;
   using const_iterator = std::map<BankName, Bank>::const_iterator;
+  /// @}
 
   /// Returns an iterator to the first bank in name order.
   ///
@@ -72,6 +80,12 @@ public:
   /// Returns the iterator behind the last bank. It is valid until the registry is assigned to,
   /// moved from or destroyed.
   [[nodiscard]] const_iterator end() const noexcept { return banks_.end(); }
+
+  /// Returns how many banks there are.
+  [[nodiscard]] size_type size() const noexcept { return banks_.size(); }
+
+  /// Returns whether there is no bank.
+  [[nodiscard]] bool empty() const noexcept { return banks_.empty(); }
 
   /// Returns whether a bank of this name is registered. Letter case matters.
   ///
@@ -192,9 +206,6 @@ public:
   }
 
 private:
-  // The first bank from `first` on that holds the number, or the end.
-  const_iterator holder(accounting::AccountNumber const& number, const_iterator first) const;
-
   std::map<BankName, Bank> banks_;
 };
 

@@ -4,6 +4,7 @@
 #include <mintar/Money.hpp>
 
 #include <QDate>
+#include <QTypeInfo>
 
 class QDebug;
 
@@ -32,3 +33,5 @@ struct ReconciledBalance
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& balance);
 
 } // namespace orv::banking
+
+Q_DECLARE_TYPEINFO(orv::banking::ReconciledBalance, Q_RELOCATABLE_TYPE);

@@ -5,6 +5,7 @@
 #include <mintar/Money.hpp>
 
 #include <QDate>
+#include <QTypeInfo>
 
 #include <iosfwd>
 #include <optional>
@@ -103,3 +104,5 @@ ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& account);
 
 } // namespace orv::banking
+
+Q_DECLARE_TYPEINFO(orv::banking::ReconciledBankAccount, Q_RELOCATABLE_TYPE);

@@ -1,25 +1,14 @@
 #pragma once
 
+#include "BookError.hpp"
+
 #include <accounting/AccountNumber.hpp>
 #include <banking/BankAccountTypes.hpp>
 #include <mintar/Money.hpp>
 
 #include <QByteArrayView>
-#include <QCoreApplication>
 #include <QDate>
 #include <QStringList>
-
-#include <stdexcept>
-
-/// An error of whoever wrote a line, or of a file that it names. `what()` is for the user, translated and
-/// in UTF-8, as it is of the library's own errors.
-class BookError : public std::runtime_error
-{
-  Q_DECLARE_TR_FUNCTIONS(BookError)
-
-public:
-  explicit BookError(QString const& text) : std::runtime_error(text.toStdString()) {}
-};
 
 // How the words of a book are read. Each function throws BookError with the word in the text.
 
