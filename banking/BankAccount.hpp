@@ -10,9 +10,12 @@
 
 namespace orv::banking {
 
-/// An account at a bank: the bank's name, the ledger account number and the kind.
+/// An account at a bank: the bank's name, the account number in the ledger, and the kind.
 ///
-/// This is plain data: nothing is checked.
+/// Use it to show an account, or to say which account is meant. It is plain data: nothing is
+/// checked, no registry is asked, and there is no `==` and no hash.
+///
+/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`).
 ///
 /// \snippet snippets.cpp BankAccount
 struct BankAccount
@@ -24,27 +27,20 @@ struct BankAccount
   AccountNumberBankType accountNumberBankType;
 };
 
-/// Returns the account as a user reads it, for example "Elm Credit Union: 100 (Credit Card)".
+/// Returns the account as a user reads it, such as "Elm: 100 (Credit Card)".
 ///
-/// With `LocaleAware::Yes` the kind is in the user's language, with `LocaleAware::No` in plain
-/// text. The arrangement of number and kind follows the user's language either way.
+/// `localeAware` decides on the kind's text, as for `AccountNumberBankType`.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso BankAccount
 [[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankAccount const& account,
                                                           foundation::LocaleAware localeAware);
 
-/// Writes the fields with their labels, in UTF-8: `Bank (…), Account Type (…)`, with the stream
-/// forms of `BankName` and `AccountNumberBankType` in the parentheses.
-///
-/// \throws std::logic_error if the kind is not one of the enumerators; the text before the kind has
-///         been written
+/// Writes `Bank (…), Account Type (…)`, with what `<<` writes of the name and of number and kind.
 /// \relatesalso BankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccount const& account);
 
-/// Writes the text of the standard stream to a debug stream, as one `QString`.
-///
-/// \throws std::logic_error if the kind is not one of the enumerators; nothing has been written
+/// Writes what `std::ostream <<` writes, as one `QString`.
 /// \relatesalso BankAccount
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 

@@ -5,31 +5,32 @@
 #include <banking/Export.hpp>
 #include <foundation/LocaleAware.hpp>
 
+#include <QString>
+
 #include <cstdint>
 #include <iosfwd>
 #include <optional>
 
-class QDebug;
-class QString;
+QT_FORWARD_DECLARE_CLASS(QDebug)
 
 namespace orv::banking {
 
 /// \defgroup kinds Kinds of account
 /// The kinds of account that a bank holds, their texts, and their classes in the ledger.
 ///
+/// Show users `presentationText`. Store `toNonLocalisedText`, and read it back with
+/// `fromNonLocalisedText`.
+///
+/// Every function but the two that read a text throws `std::logic_error` if `type` is not one of the
+/// enumerators; \ref conventions say more (in `BankError.hpp`).
+///
 /// \snippet snippets.cpp BankAccountTypes
 /// @{
 
 /// The kind of an account that a bank holds.
-///
-/// A text in the user's language is that of the installed translator, or else English.
-///
-/// A value outside these enumerators is a mistake of the program: each function that reads the kind
-/// throws `std::logic_error`, with a text in English for the programmer. `Unknown` is not such a
-/// value.
 enum class BankAccountTypes : std::int32_t
 {
-  Unknown = 0,    ///< The kind is not known. Neither an asset nor a liability; no bank accepts it.
+  Unknown = 0,    ///< The kind is not known. It has a text, "Unknown", but no bank accepts it.
   Chequeing = 1,  ///< An account for everyday payments, an asset.
   CreditCard = 2, ///< What is owed on a credit card, a liability.
   Loan = 3,       ///< Borrowed money, a liability.
@@ -38,67 +39,52 @@ enum class BankAccountTypes : std::int32_t
 };
 
 /// Returns whether the kind is an asset: chequing, savings or goal. False for `Unknown`.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators
 [[nodiscard]] ORV_BANKING_EXPORT bool isAssetAccount(BankAccountTypes type);
 
 /// Returns whether the kind is a liability: credit card or loan. False for `Unknown`.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators
 [[nodiscard]] ORV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
 
-/// Returns the plain text of the kind, for example "Credit Card", which is the same in every
-/// locale.
-///
-/// Programs store this text. It is one of "Unknown", "Chequeing", "Credit Card", "Loan", "Savings"
-/// and "Goal". The string refers to static data; nothing is allocated.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators
-[[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
-
-/// Returns the kind that has this plain text, or nothing.
-///
-/// It reads what `toNonLocalisedText` returns, whatever the user's language: programs read stored
-/// kinds with it. The text must be equal letter for letter.
-[[nodiscard]] ORV_BANKING_EXPORT std::optional<BankAccountTypes>
-fromNonLocalisedText(QString const& text);
-
-/// Returns the text of the kind in the user's language.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators
-[[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankAccountTypes const& type);
-
-/// Returns the kind that has this text.
-///
-/// The plain texts are compared first, then the texts in the user's language. Both must be equal to
-/// `text` letter for letter: case and spaces matter. "Unknown" returns `Unknown`.
-///
-/// \throws std::logic_error if no kind has this text; a program that reads stored texts catches it
-///         and shows a text of its own
-[[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
-
-/// Returns the class of ledger account that the kind belongs to: `Asset`, `Liability`, or zero for
-/// `Unknown`.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators
+/// Returns the class of the account in the ledger: `AccountTypes::Asset`, `Liability` or `Unknown`.
 [[nodiscard]] ORV_BANKING_EXPORT accounting::AccountTypes
 toAccountTypes(BankAccountTypes const& type);
 
-/// Writes the text of the kind in the user's language, in UTF-8.
+/// Returns the text of the kind in the user's language.
+[[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankAccountTypes const& type);
+
+/// Returns the untranslated text of the kind: "Unknown", "Chequeing", "Credit Card", "Loan",
+/// "Savings" or "Goal".
 ///
-/// \throws std::logic_error if `type` is not one of the enumerators; nothing has been written
+/// It is the same in every locale. The string refers to static data; nothing is allocated.
+[[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
+
+/// Returns the kind that has this untranslated text, or nothing.
+///
+/// The text must be equal letter for letter. It never depends on the user's language, so use it for
+/// what was stored. "Unknown" is the text of `Unknown`. Nothing is thrown.
+/// \since 1.1.1
+[[nodiscard]] ORV_BANKING_EXPORT std::optional<BankAccountTypes>
+fromNonLocalisedText(QString const& text);
+
+/// Returns the kind that has this text, untranslated or in the user's language.
+///
+/// Use it for what a user writes. The text must be equal letter for letter. An untranslated text
+/// wins where it is also the translation of another kind.
+///
+/// \throws std::logic_error if no kind has the text; its own text is in English, for the programmer
+[[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
+
+/// Writes the text of the kind in the user's language.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccountTypes const& type);
 
-/// Writes the text of the standard stream to a debug stream, as one `QString`.
-///
-/// \throws std::logic_error if `type` is not one of the enumerators; nothing has been written
+/// Writes what `std::ostream <<` writes, as one `QString`.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type);
 
 /// @}
 
-/// A ledger account number and the kind of bank account that it stands for.
+/// An account number of the ledger and the kind of bank account that it stands for.
 ///
-/// This is plain data: nothing is checked, and any number goes with any kind.
+/// Use it for an account whose bank is known. It is plain data: nothing is checked, and there is no
+/// `==`, no hash and no `QDebug <<`.
 struct AccountNumberBankType
 {
   /// The number of the account in the ledger.
@@ -108,21 +94,17 @@ struct AccountNumberBankType
   BankAccountTypes bankAccountType = BankAccountTypes::Unknown;
 };
 
-/// Returns the number and the kind as a user reads them, for example "100 (Credit Card)".
+/// Returns the number and the kind as a user reads them, such as "100 (Credit Card)".
 ///
-/// With `LocaleAware::Yes` the kind is in the user's language, with `LocaleAware::No` in plain
-/// text. The arrangement of the two follows the user's language either way.
+/// `localeAware` decides on the kind's text: in the user's language for `Yes` and every other value
+/// but `No`. The translator arranges number and kind either way, so the whole is not for storing.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso AccountNumberBankType
 [[nodiscard]] ORV_BANKING_EXPORT QString presentationText(AccountNumberBankType const& account,
                                                           foundation::LocaleAware localeAware);
 
-/// Writes the fields with their labels, in UTF-8: `Bank Account Number (100), Bank Account Type
-/// (Credit Card)`, with the kind in the user's language.
-///
-/// \throws std::logic_error if the kind is not one of the enumerators; the text before the kind has
-///         been written
+/// Writes `Bank Account Number (100), Bank Account Type (Loan)`.
 /// \relatesalso AccountNumberBankType
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             AccountNumberBankType const& account);

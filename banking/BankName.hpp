@@ -11,40 +11,41 @@
 #include <functional>
 #include <iosfwd>
 
-class QDebug;
+QT_FORWARD_DECLARE_CLASS(QDebug)
 
 namespace orv::banking {
 
-/// The name of a financial institution.
+/// The name of a bank, by which a program and its registry of banks know it.
 ///
-/// The text is kept exactly as given: nothing is trimmed, folded or normalised. Names are equal if
-/// their texts are equal. They are ordered by UTF-16 code unit, so "Zed" comes before "elm". A name
-/// can be a key in ordered and in hashed containers, Qt's and the standard library's.
+/// Use it as a key, in maps and in hashes. Names are equal if their texts are equal, and are ordered
+/// by UTF-16 code unit, so "Zed" comes before "elm". The text is kept exactly as given: nothing is
+/// trimmed, folded or normalised.
 ///
-/// A default-constructed name is empty. A moved-from name is for assigning to and destroying only.
+/// **Rules.** A name created from a text is not blank. Only a default-constructed name is empty.
+///
+/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`).
+///
+/// **Also.** `QVariant` holds a name without a macro; its `==` compares names.
 ///
 /// \snippet snippets.cpp BankName
 class ORV_BANKING_EXPORT BankName
 {
 public:
-  /// Creates the empty name, which stands where no valid name is known.
+  /// Creates an empty name.
   BankName() noexcept = default;
 
   /// Creates a name from a text.
   ///
-  /// The text must not be blank, that is, empty or only white space as `QChar::isSpace()` defines
-  /// it. No-break space (U+00A0) and em space (U+2003) are white space; zero-width space (U+200B)
-  /// and NUL are not.
+  /// Blank means empty or only white space as `QChar::isSpace()` defines it: U+00A0 is white space,
+  /// zero-width space (U+200B) and NUL are not.
   ///
-  /// \throws BankError if `institution` is blank; the name of the bank in the error is empty
+  /// \throws BankError if `institution` is blank; the error's text shows no bank: "the bank ''"
   explicit BankName(QString institution);
 
   /// Returns the text, exactly as it was given.
-  ///
-  /// The reference is valid as long as this name exists. Later assignments show through it.
   [[nodiscard]] QString const& institution() const noexcept { return institution_; }
 
-  /// Returns whether this is the empty name. A name created from a text is not empty.
+  /// Returns whether the name is empty. A name created from a text is not.
   [[nodiscard]] bool isEmpty() const noexcept { return institution_.isEmpty(); }
 
 private:
@@ -58,21 +59,23 @@ inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
   return lhs.institution() == rhs.institution();
 }
 
-/// Compares the texts by UTF-16 code unit. The operators `>`, `<=` and `>=` follow from this one.
+/// Compares the texts by UTF-16 code unit.
+/// \since 1.1.1
 /// \relatesalso BankName
 inline std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs) noexcept
 {
   return lhs.institution().compare(rhs.institution()) <=> 0;
 }
 
-/// Returns whether `lhs` comes before `rhs` in the order of `<=>`.
+/// Returns whether `lhs` comes before `rhs`.
 /// \relatesalso BankName
 inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 {
-  return std::is_lt(lhs <=> rhs); // written out for callers that name this operator
+  return std::is_lt(lhs <=> rhs);
 }
 
 /// Returns a hash of the name, for `QHash` and `QSet`.
+/// \since 1.1.1
 /// \relatesalso BankName
 [[nodiscard]] inline std::size_t qHash(BankName const& name, std::size_t seed = 0) noexcept
 {
@@ -83,11 +86,11 @@ inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 /// \relatesalso BankName
 [[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankName const& name);
 
-/// Writes the name with its label, in UTF-8: `Financial Institution Name: (Elm Credit Union)`.
+/// Writes `Financial Institution Name: (Elm)`.
 /// \relatesalso BankName
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankName const& name);
 
-/// Writes the text of the standard stream to a debug stream, as one `QString`.
+/// Writes what `std::ostream <<` writes, as one `QString`.
 /// \relatesalso BankName
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankName const& name);
 
@@ -98,6 +101,7 @@ Q_DECLARE_TYPEINFO(orv::banking::BankName, Q_RELOCATABLE_TYPE);
 namespace std {
 
 /// Hashes bank names for `std::unordered_map` and `std::unordered_set`.
+/// \since 1.1.1
 template <>
 struct hash<orv::banking::BankName>
 {

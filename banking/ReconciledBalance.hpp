@@ -6,14 +6,19 @@
 #include <QDate>
 #include <QTypeInfo>
 
-class QDebug;
+QT_FORWARD_DECLARE_CLASS(QDebug)
 
 namespace orv::banking {
 
-/// A balance and the date on which it occurred.
+/// An account's balance on a date, for instance an entry of its history.
 ///
-/// This is plain data: nothing is checked. Like an assignment of `mintar::Money`, an assignment
-/// that would change the currency throws `std::invalid_argument`.
+/// It is plain data: nothing is checked, and there is no `==`, no hash and no `std::ostream <<`.
+///
+/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`),
+/// but an assignment that would change the currency throws `std::invalid_argument`. Keep balances of
+/// several currencies in `QList`, which moves them in memory. `std::sort`, `std::swap`, and `insert`
+/// and `erase` of `std::vector` assign: between two currencies they throw half-way, and leave values
+/// lost or doubled.
 ///
 /// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
@@ -25,10 +30,9 @@ struct ReconciledBalance
   QDate occurredOn;
 };
 
-/// Writes the balance and the date to a debug stream: `Balance (…), Occurred On (…)`.
+/// Writes `Balance (…), Occurred On (…)`, with what `QDebug <<` writes of the amount and the date.
 ///
-/// The five parts are written one by one, so the stream puts a space after each unless told
-/// `nospace()`. The amount and the date are as `QDebug` writes them.
+/// The five parts are written one by one: the stream puts a space after each unless told `nospace()`.
 /// \relatesalso ReconciledBalance
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& balance);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <banking/BankAccount.hpp>
+#include <banking/BankError.hpp>
 #include <banking/Export.hpp>
 #include <mintar/Money.hpp>
 
@@ -14,25 +15,30 @@ namespace orv::banking {
 
 /// A bank account with the balance and the date of its last reconciliation.
 ///
-/// To reconcile an account is to record the balance that the bank reported on a date. A
-/// reconciliation never moves back in time.
+/// Use it to record what the bank reported: to reconcile an account is to record the balance that
+/// the bank had on a date. It is a value of its own, which no registry knows. If its bank is renamed,
+/// or its kind changed, replace it:
+/// `account = ReconciledBankAccount(renamed, account.balance(), account.reconciledOn());`
 ///
-/// The account does not know the registry of banks. If its bank is renamed there, replace the
-/// account by one with the new name and the same balance and date; the main page shows how.
+/// **Rules.** A reconciliation never moves back in time, and never changes the currency.
 ///
-/// Several threads may read the same account. While one thread changes it, no other may use it.
+/// **Lifetime, threads, memory.** As \ref conventions say (in `BankError.hpp`). Unlike an amount, an
+/// account can be assigned one in another currency, so all containers and algorithms work.
+///
+/// **State after a move.** As \ref conventions say; the account moved from keeps its date.
+///
+/// **Also.** `QVariant` holds an account without a macro. There is no `==`, no order and no hash.
+/// An amount cannot be read back: to store it, keep its minor units and currency beside the account.
 ///
 /// \snippet snippets.cpp ReconciledBankAccount
 class ORV_BANKING_EXPORT ReconciledBankAccount
 {
 public:
-  /// Creates an account without a bank, a number, a kind or an amount. It has never been
-  /// reconciled.
+  /// Creates an account without a bank, a number, a kind, an amount and a date.
   ReconciledBankAccount() = default;
 
-  /// Creates an account that was last reconciled as given. Nothing is checked.
-  ///
-  /// Without a date, the account has never been reconciled.
+  /// Creates an account that was last reconciled as given, or never if there is no date. Nothing is
+  /// checked.
   ReconciledBankAccount(BankAccount bankAccount, mintar::Money balance,
                         std::optional<QDate> reconciledOn);
 
@@ -54,29 +60,23 @@ public:
   ~ReconciledBankAccount() = default;
 
   /// Returns the bank, the number and the kind of the account.
-  ///
-  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] BankAccount const& bankAccount() const noexcept { return bankAccount_; }
 
   /// Returns the balance of the last reconciliation, or else the balance given at construction.
-  ///
-  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] mintar::Money const& balance() const noexcept { return balance_; }
 
   /// Returns the date of the last reconciliation, or nothing.
-  ///
-  /// The reference is valid as long as this account exists. Later changes show through it.
   [[nodiscard]] std::optional<QDate> const& reconciledOn() const noexcept { return reconciledOn_; }
 
-  /// Records the balance that the bank reported on a date.
+  /// Records the balance that the bank reported on a date. Not logged.
   ///
-  /// The first reconciliation accepts any date, a later one the same date or a later one. An
-  /// invalid date is earlier than every valid date. The date is checked before the currency.
+  /// The first reconciliation accepts any date, each further one the same date or a later one. An
+  /// invalid date is earlier than every valid date, and equal to itself.
   ///
-  /// \throws BankError if `date` is earlier than the last date; the error tells the last date, then
-  ///         `date`, and the account is unchanged
+  /// \throws BankError if `date` is earlier than the last date; the text gives the last date, then
+  ///         `date`, which shows nothing if it is invalid: "in the past, ."
   /// \throws std::invalid_argument if the account has a currency and `balance` has another one or
-  ///         none; the account is unchanged
+  ///         none; its text is in English, for the programmer
   void reconcile(QDate const& date, mintar::Money const& balance);
 
 private:
@@ -85,21 +85,15 @@ private:
   std::optional<QDate> reconciledOn_;
 };
 
-/// Writes the fields with their labels, in UTF-8.
+/// Writes `Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)`.
 ///
-/// The text is `Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)`, with the account,
-/// then the balance as the user's locale shows it, then the date in ISO 8601 or
-/// `<optional-value-not-set>`.
-///
-/// \throws std::logic_error if the kind is not one of the enumerators; the text before the kind has
-///         been written
+/// The account is what `<<` writes of it, the balance as the user's locale shows it, the date in ISO
+/// 8601 or `<optional-value-not-set>`.
 /// \relatesalso ReconciledBankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             ReconciledBankAccount const& account);
 
-/// Writes the text of the standard stream to a debug stream, as one `QString`.
-///
-/// \throws std::logic_error if the kind is not one of the enumerators; nothing has been written
+/// Writes what `std::ostream <<` writes, as one `QString`.
 /// \relatesalso ReconciledBankAccount
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& account);
 
