@@ -9,8 +9,6 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonObject>
 #include <QLocale>
 #include <QTranslator>
 
@@ -157,46 +155,6 @@ void reconciledBankAccount()
   //! [ReconciledBalance]
 }
 
-//! [Save and load]
-QJsonArray save(BankMap const& banks)
-{
-  QJsonArray saved;
-  for (auto const& [name, bank] : banks) {
-    QJsonObject accounts;
-    for (auto const& [number, kind] : bank.accounts()) {
-      accounts[QString::number(number.integer())] = toNonLocalisedText(kind);
-    }
-    saved.append(QJsonObject{
-        {"name", name.institution()}, {"accounts", accounts}, {"isClosed", bank.isClosed()}});
-  }
-  return saved;
-}
-
-BankMap load(QJsonArray const& saved)
-{
-  std::map<BankName, Bank> banks;
-  for (auto const& value : saved) {
-    auto const object = value.toObject();
-    auto const numbers = object["accounts"].toObject();
-    std::map<AccountNumber, BankAccountTypes> accounts;
-    for (auto it = numbers.begin(); it != numbers.end(); ++it) {
-      accounts[AccountNumber(it.key().toUInt())] = toBankAccountTypes(it.value().toString());
-    }
-    BankName const name(object["name"].toString());
-    banks.emplace(name, Bank(name, std::move(accounts), object["isClosed"].toBool()));
-  }
-  return BankMap(std::move(banks)); // checks the rules that span banks
-}
-//! [Save and load]
-
-void saveAndLoad()
-{
-  BankName const elm("Elm");
-  BankMap const banks({{elm, Bank(elm, {{AccountNumber(100), BankAccountTypes::Loan}}, true)}});
-  qInfo() << (load(save(banks)) == banks);
-  // prints: true
-}
-
 void renameInStep()
 {
   BankName const elm("Elm");
@@ -246,7 +204,6 @@ int main(int argc, char* argv[])
   bankMap();
   bankError();
   reconciledBankAccount();
-  saveAndLoad();
   renameInStep();
   french();
 }
