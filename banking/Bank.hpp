@@ -16,13 +16,15 @@ namespace orv::banking {
 /// Use it to describe a bank for a `BankMap`, or to change several things of one bank at once: copy
 /// it from the registry, change the copy, and pass that to `BankMap::update`.
 ///
-/// **Rules.** A bank has a name, no invalid account number and no account of the kind `Unknown`. It
-/// is closed only while open, and opened only while closed. A closed bank still adds and removes
-/// accounts. A default-constructed bank has no name; it is for assigning to.
+/// **Rules.** A bank that is created with a name has one, no invalid account number, and no account
+/// of the kind `Unknown`. To close a closed bank and to open an open one are errors. A closed bank
+/// still adds and removes accounts. A default-constructed bank has no name; all calls work on it,
+/// with an empty name in their messages.
 ///
-/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`).
+/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
 ///
-/// **Also.** `QVariant` holds a bank without a macro. There is no order and no hash.
+/// There is no order and no hash. Costs are those of a `std::map` of the accounts, but for
+/// `remove`.
 ///
 /// \snippet snippets.cpp Bank
 class ORV_BANKING_EXPORT Bank
@@ -33,15 +35,15 @@ public:
 
   /// Creates a bank from its name, its accounts and its state. Nothing is logged.
   ///
-  /// \throws BankError if `name` is empty; the error's text shows no bank: "the bank ''"
+  /// \throws BankError if `name` is empty; the error's text says "the bank ''"
   /// \throws BankError if an account number is invalid
   /// \throws BankError if a kind is `Unknown`
-  ///
-  /// Complexity: linear in the number of accounts.
   Bank(BankName name, std::map<accounting::AccountNumber, BankAccountTypes> accounts,
        bool isClosed);
 
   /// Returns the account numbers with their kinds, the smallest number first.
+  ///
+  /// An iterator is valid until its number is removed, or the bank is assigned to, updated or gone.
   [[nodiscard]] std::map<accounting::AccountNumber, BankAccountTypes> const&
   accounts() const noexcept
   {
@@ -70,8 +72,6 @@ public:
   ///         before the kind
   /// \throws BankError if `number` is invalid
   /// \throws BankError if `type` is `Unknown`
-  ///
-  /// Complexity: logarithmic in the number of accounts.
   void add(accounting::AccountNumber const& number, BankAccountTypes type);
 
   /// Removes an account. Logged, with all accounts that the bank holds before.
@@ -99,7 +99,8 @@ ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 /// Writes `Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
 /// Closed: false)`.
 ///
-/// The closing parenthesis is unbalanced, on purpose. The stream is left in `std::boolalpha` mode.
+/// The unbalanced parenthesis is kept for programs that compare the text. The stream is left in
+/// `std::boolalpha` mode.
 /// \relatesalso Bank
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 

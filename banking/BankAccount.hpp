@@ -15,7 +15,7 @@ namespace orv::banking {
 /// Use it to show an account, or to say which account is meant. It is plain data: nothing is
 /// checked, no registry is asked, and there is no `==` and no hash.
 ///
-/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`).
+/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
 ///
 /// \snippet snippets.cpp BankAccount
 struct BankAccount
@@ -29,7 +29,7 @@ struct BankAccount
 
 /// Returns the account as a user reads it, such as "Elm: 100 (Credit Card)".
 ///
-/// `localeAware` decides on the kind's text, as for `AccountNumberBankType`.
+/// `localeAware` chooses the text of the kind, as for `AccountNumberBankType`.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso BankAccount

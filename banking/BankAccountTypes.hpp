@@ -21,8 +21,8 @@ namespace orv::banking {
 /// Show users `presentationText`. Store `toNonLocalisedText`, and read it back with
 /// `fromNonLocalisedText`.
 ///
-/// Every function but the two that read a text throws `std::logic_error` if `type` is not one of the
-/// enumerators; \ref conventions say more (in `BankError.hpp`).
+/// A function that takes a kind throws `std::logic_error` if it is not one of the enumerators; see
+/// \ref conventions, in `BankError.hpp`.
 ///
 /// \snippet snippets.cpp BankAccountTypes
 /// @{
@@ -70,7 +70,8 @@ fromNonLocalisedText(QString const& text);
 /// Use it for what a user writes. The text must be equal letter for letter. An untranslated text
 /// wins where it is also the translation of another kind.
 ///
-/// \throws std::logic_error if no kind has the text; its own text is in English, for the programmer
+/// \throws std::logic_error if no kind has the text. Its text is in English, for the programmer:
+///         tell the user in words of your own
 [[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
 
 /// Writes the text of the kind in the user's language.
@@ -84,7 +85,7 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type)
 /// An account number of the ledger and the kind of bank account that it stands for.
 ///
 /// Use it for an account whose bank is known. It is plain data: nothing is checked, and there is no
-/// `==`, no hash and no `QDebug <<`.
+/// `==`, no hash and no `QDebug <<`. See \ref conventions, in `BankError.hpp`.
 struct AccountNumberBankType
 {
   /// The number of the account in the ledger.
@@ -96,8 +97,8 @@ struct AccountNumberBankType
 
 /// Returns the number and the kind as a user reads them, such as "100 (Credit Card)".
 ///
-/// `localeAware` decides on the kind's text: in the user's language for `Yes` and every other value
-/// but `No`. The translator arranges number and kind either way, so the whole is not for storing.
+/// For `LocaleAware::No` the text of the kind is untranslated, for every other value it is in the
+/// user's language. The translator arranges number and kind either way: do not store the whole.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso AccountNumberBankType

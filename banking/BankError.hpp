@@ -14,52 +14,60 @@ namespace orv::banking {
 /// These hold for every type of `orv::banking`. A declaration says only what differs.
 ///
 /// **Errors.** A broken rule throws `BankError`. The `\throws` lines of a call are in the order of
-/// its checks: if several rules are broken, the first one is reported. A call that throws, whatever
-/// it throws, leaves its object unchanged. What does not come back: an argument passed with
-/// `std::move`, a message already logged, and text already written to a `std::ostream`.
+/// its checks: if several rules are broken, the first one is reported. A member function that
+/// throws, whatever it throws, leaves its object unchanged. What stays: an argument passed with
+/// `std::move` is moved from, a message is logged, and a `std::ostream` keeps what was written to
+/// it.
 ///
 /// **Kinds outside the enumeration.** A `BankAccountTypes` value that is not one of the enumerators
-/// is a programming error. Calls that need its text or class throw `std::logic_error`, and so do
-/// writing and logging it. Storing, copying and comparing it do not: banks and registries accept it.
-/// A bank that holds one cannot be logged as a whole, so `remove` throws for every number; `add` of
-/// that number with a proper kind repairs the bank.
+/// is a fault of the program. What needs its text or its class of ledger account throws
+/// `std::logic_error`: the functions of kinds, writing, and logging. What does not look at it
+/// accepts it: constructors, `BankMap::add` of a bank, `update`, copies and `==`. A bank that holds
+/// one cannot be logged, so its `remove` throws for every number; `add` of that number with one of
+/// the enumerators mends it.
 ///
 /// **Languages.** Texts for users are in the language of the translator that is installed when the
-/// text is made, or in English. Dates and amounts in them follow `QLocale()`. Untranslated texts,
-/// labels and the words of log messages are always in English.
+/// text is made, or in English. Dates and amounts follow `QLocale()`. Untranslated texts and labels
+/// are always in English. French and German come with the library: load one with
+/// `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, install it with
+/// `QCoreApplication::installTranslator()`, and keep it. Beside an installed program the folder is
+/// `../share/orv-banking/translations`; CMake has it in `ORV_BANKING_TRANSLATIONS_DIR`, pkg-config
+/// in the variable `translationsdir`.
 ///
-/// **Streams.** `std::ostream <<` writes UTF-8: the labels in English, kinds and amounts for users.
+/// **Streams.** `std::ostream <<` writes UTF-8: labels in English, kinds and amounts as for users.
 /// `QDebug <<` writes the same text as one `QString`, which Qt quotes and escapes unless told
-/// `noquote()`. If it throws, nothing of the value is written; the line of a `qDebug()` still ends
-/// and is emitted. The stream's own header, `<QDebug>` or `<ostream>`, is the caller's to include.
+/// `noquote()`. If making the text throws, nothing of the value reaches the `QDebug`; the line of a
+/// `qDebug()` still ends and is emitted. The header of a stream is for the caller to include.
 ///
 /// **Log.** `open`, `close`, and `add` and `remove` of an account number log one info message in
-/// Qt's default category before the bank checks anything. Nothing else logs. A message handler must
-/// not throw.
+/// Qt's default category before the bank checks anything, so a call that throws is logged too. Its
+/// words are in English, kinds as for users. Nothing else logs. If the category is off, the message
+/// is made and dropped. A message handler must not throw, and must not use the bank.
 ///
 /// **Lifetime.** A reference that a call returns is valid as long as its object exists, and refers
-/// to the new value after a change. An object after a move is for assigning to and destroying only.
+/// to the new value after a change. Arguments may refer into the object that is changed.
 ///
 /// **Threads.** Several threads may read the same object. While one thread changes it, no other may
-/// use it. Distinct objects are independent. No translator may be installed or removed meanwhile.
+/// use it. Distinct objects are independent. While a thread uses the library, no other may install
+/// or remove a translator.
 ///
 /// **Memory.** A call that runs out of memory throws `std::bad_alloc`. A call that logs can end the
-/// process instead: Qt needs memory for the first message of a process, and its own handler for each
-/// message, in places where it cannot throw.
+/// process instead: Qt allocates for the first message of a process, and its own message handler
+/// for every message, where an exception cannot pass. A copy assignment of a bank or a registry
+/// that runs out of memory leaves an object for assigning to and destroying only.
+///
+/// **State after a move.** For assigning to and destroying only, unless the class says more.
+///
+/// **QVariant** holds every type but `BankError` without a macro, and compares those that have
+/// `==`.
 
 /// The error that is thrown when a rule of banking is broken.
 ///
-/// Catch it where a user's change is carried out, and show `what()`: a translated text in UTF-8 that
-/// names the bank and the rule, such as "There is an issue with the bank 'Elm'. Cannot close a bank
-/// that is already closed." It holds no error code and no bank. To learn who holds a number, call
-/// `BankMap::find`.
-///
-/// French and German come with the library: load one with
-/// `QTranslator::load(QLocale(), "orv-banking", "_", folder)`, install it with
-/// `QCoreApplication::installTranslator()`, and keep it. CMake has the folder in
-/// `ORV_BANKING_TRANSLATIONS_DIR`, pkg-config in the variable `translationsdir`.
-///
-/// The page [Calls](docs/calls.md), installed in `share/doc/orv-banking`, has the text of each error.
+/// Catch it where a user's change is carried out, and show `what()`: a translated text in UTF-8
+/// that names the bank and the rule, such as "There is an issue with the bank 'Elm'. Cannot close a
+/// bank that is already closed." There is no error code and no bank in it. To learn who holds a
+/// number, call `BankMap::find`. The page [Calls](docs/calls.md), which is installed in
+/// `share/doc/orv-banking`, has the text of each error.
 ///
 /// \snippet snippets.cpp BankError
 class ORV_BANKING_EXPORT BankError : public foundation::Error
@@ -69,7 +77,8 @@ public:
   ///
   /// \param bank the bank; with an empty name, the text says "the bank ''"
   /// \param message the broken rule, translated, with its placeholders filled
-  /// \param cause the exception that led to this error, for `foundation::Error`, which may ignore it
+  /// \param cause the exception that led to this error, for `foundation::Error`, which may ignore
+  ///         it
   BankError(BankName const& bank, QString const& message,
             std::exception const& cause = std::exception());
 };

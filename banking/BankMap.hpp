@@ -20,24 +20,27 @@ namespace orv::banking {
 /// by call. It is a value: copy it, change the copy, and move that back if all went well.
 ///
 /// **Rules.** Each bank is registered under its own name, no bank holds the invalid account number,
-/// and no two banks hold the same account number. Each error names the bank that the call is about.
-/// `open`, `close`, and `add` and `remove` of an account number are passed on to the bank once the
-/// registry has checked its own rules: the bank logs them, and its rules apply too.
+/// and no two banks hold the same account number. A name may be empty: one default-constructed bank
+/// can be registered, and is found under `BankName()`. Each error names the bank that is passed,
+/// and that of `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an account
+/// number are passed on to the bank once the registry has checked its own rules: the bank logs
+/// them, and its rules apply too.
 ///
 /// **Lifetime.** A reference or an iterator to a bank is valid until that bank is removed or
-/// renamed, or the registry is assigned to, moved, swapped or destroyed. After any other change,
-/// `update` included, it refers to the bank as it is then. Arguments may refer into the registry:
-/// `banks.remove(banks.bank(name).name())` is fine.
+/// renamed, or the registry is assigned to, moved, swapped or destroyed; an end iterator until the
+/// last four. After any other change, `update` included, it refers to the bank as it is then; only
+/// iterators into the accounts of a bank end with its `update`. Arguments may refer into the
+/// registry: `banks.remove(banks.bank(name).name())` is fine.
 ///
-/// **Threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`). A bank
-/// passed with `std::move` is moved from even if the call throws.
+/// **Threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`. A bank passed
+/// with `std::move` is moved from even if the call throws.
 ///
-/// **Also.** `QVariant` holds a registry without a macro. There is no order, no hash and no
-/// `QDebug <<`.
+/// There is no order, no hash and no `QDebug <<`.
 ///
-/// In the complexities, B is the number of banks, N that of the accounts of all banks, A that of the
-/// registered bank with most accounts, and M that of the bank passed. Numbers have no index: to find
-/// who holds one, the registry asks bank after bank.
+/// Numbers have no index: to find who holds one, the registry asks bank after bank. In the
+/// complexities, B is the number of banks, N that of all accounts, A that of the accounts of the
+/// largest bank, and M that of the bank passed. A call without a complexity takes O(log B), and
+/// O(1) as a member of the range.
 ///
 /// \snippet snippets.cpp BankMap
 class ORV_BANKING_EXPORT BankMap
@@ -60,12 +63,12 @@ public:
   /// Creates a registry of these banks, closed ones included.
   ///
   /// Prefer it to repeated `add`: each `add` visits every bank. The banks are checked in the order
-  /// of their keys, each by all checks. A bank without a name is accepted under an empty key.
+  /// of their keys, the first one by all checks, then the next one.
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
-  /// \throws BankError if a bank holds the invalid number, which `Bank` does not let happen
-  /// \throws BankError if two banks share a number; the error names the first of them, the smallest
-  ///         shared number, and the next bank that holds it
+  /// \throws BankError if a bank holds the invalid number, which no `Bank` does
+  /// \throws BankError if a bank shares numbers with later banks; the error names it, the smallest
+  ///         of these numbers, and the next bank that holds that number
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
@@ -87,8 +90,6 @@ public:
   [[nodiscard]] bool empty() const noexcept { return banks_.empty(); }
 
   /// Returns whether a bank of this name is registered. Letter case matters.
-  ///
-  /// Complexity: O(log B).
   [[nodiscard]] bool hasBank(BankName const& name) const noexcept;
 
   /// Returns a copy of the bank that holds the account number, or nothing.
@@ -104,24 +105,18 @@ public:
   /// Returns the bank of this name.
   ///
   /// \throws BankError if there is no such bank
-  ///
-  /// Complexity: O(log B).
   [[nodiscard]] Bank const& bank(BankName const& name) const;
 
   /// Closes the bank of this name. Logged if there is such a bank.
   ///
   /// \throws BankError if there is no such bank
   /// \throws BankError if the bank is closed already
-  ///
-  /// Complexity: O(log B).
   void close(BankName const& name);
 
   /// Opens the bank of this name. Logged if there is such a bank.
   ///
   /// \throws BankError if there is no such bank
   /// \throws BankError if the bank is open already
-  ///
-  /// Complexity: O(log B).
   void open(BankName const& name);
 
   /// Adds an account to the bank of this name, or changes its kind if the bank holds the number
@@ -148,13 +143,12 @@ public:
 
   /// Adds a bank under its name. Not logged.
   ///
-  /// A bank without a name is registered under an empty name, so `add(Bank())` throws only the
-  /// second time.
+  /// `add(Bank())` registers a bank under the empty name, and throws the second time.
   ///
   /// \throws BankError if the bank is closed
   /// \throws BankError if a bank of its name is registered already
-  /// \throws BankError if a registered bank holds one of its numbers; the error names the first such
-  ///         bank and the smallest number that the two share
+  /// \throws BankError if a registered bank holds one of its numbers; the error names the first
+  ///         such bank and the smallest number that the two share
   ///
   /// Complexity: O(B M log A).
   void add(Bank bank);
@@ -168,8 +162,8 @@ public:
 
   /// Renames a bank. Its accounts stay the same. Not logged.
   ///
-  /// A `ReconciledBankAccount` keeps the name that it was created with: replace it. A bank cannot be
-  /// renamed to its own name.
+  /// What the program itself holds keeps the old name: each `BankAccount`, `ReconciledBankAccount`
+  /// and copy of the bank. To rename a bank to its own name is an error.
   ///
   /// \throws BankError if there is no bank of the name `from`
   /// \throws BankError if there is a bank of the name `to`
@@ -187,14 +181,12 @@ public:
   /// \throws BankError if `bank` is closed
   /// \throws BankError if the registered bank is closed
   /// \throws BankError if another bank holds one of its numbers; the error names the smallest such
-  ///         number and that bank
+  ///         number and its holder
   ///
   /// Complexity: O(B M log A).
   void update(Bank bank);
 
   /// Returns whether both registries hold equal banks.
-  ///
-  /// Complexity: O(B + N).
   friend bool operator==(BankMap const& lhs, BankMap const& rhs)
   {
     return lhs.banks_ == rhs.banks_;

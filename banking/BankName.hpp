@@ -15,17 +15,15 @@ QT_FORWARD_DECLARE_CLASS(QDebug)
 
 namespace orv::banking {
 
-/// The name of a bank, by which a program and its registry of banks know it.
+/// The name of a bank, by which programs and the registry of banks know it.
 ///
-/// Use it as a key, in maps and in hashes. Names are equal if their texts are equal, and are ordered
-/// by UTF-16 code unit, so "Zed" comes before "elm". The text is kept exactly as given: nothing is
-/// trimmed, folded or normalised.
+/// Use it as a key, in maps and in hashes. Names are equal if their texts are equal, and are
+/// ordered by UTF-16 code unit, so "Zed" comes before "elm". The text is kept exactly as given:
+/// nothing is trimmed, folded or normalised.
 ///
 /// **Rules.** A name created from a text is not blank. Only a default-constructed name is empty.
 ///
-/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`).
-///
-/// **Also.** `QVariant` holds a name without a macro; its `==` compares names.
+/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
 ///
 /// \snippet snippets.cpp BankName
 class ORV_BANKING_EXPORT BankName
@@ -39,7 +37,8 @@ public:
   /// Blank means empty or only white space as `QChar::isSpace()` defines it: U+00A0 is white space,
   /// zero-width space (U+200B) and NUL are not.
   ///
-  /// \throws BankError if `institution` is blank; the error's text shows no bank: "the bank ''"
+  /// \throws BankError (in `BankError.hpp`) if `institution` is blank; the error's text says "the
+  ///         bank ''"
   explicit BankName(QString institution);
 
   /// Returns the text, exactly as it was given.

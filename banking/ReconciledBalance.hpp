@@ -14,11 +14,11 @@ namespace orv::banking {
 ///
 /// It is plain data: nothing is checked, and there is no `==`, no hash and no `std::ostream <<`.
 ///
-/// **Lifetime, threads, memory, state after a move.** As \ref conventions say (in `BankError.hpp`),
-/// but an assignment that would change the currency throws `std::invalid_argument`. Keep balances of
-/// several currencies in `QList`, which moves them in memory. `std::sort`, `std::swap`, and `insert`
-/// and `erase` of `std::vector` assign: between two currencies they throw half-way, and leave values
-/// lost or doubled.
+/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`, but
+/// an assignment that would change the currency throws `std::invalid_argument`. So do `std::swap`,
+/// `std::sort`, and `insert` and `erase` of a `std::vector`: between two currencies they throw
+/// half-way, and leave values lost or doubled. For several currencies, use a `QList`, whose
+/// `append`, `insert` and `remove` assign nothing, and sort a list of indices.
 ///
 /// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
@@ -30,9 +30,10 @@ struct ReconciledBalance
   QDate occurredOn;
 };
 
-/// Writes `Balance (…), Occurred On (…)`, with what `QDebug <<` writes of the amount and the date.
+/// Writes `Balance ( … ), Occurred On ( … )`, with what `QDebug <<` writes of the amount and date.
 ///
-/// The five parts are written one by one: the stream puts a space after each unless told `nospace()`.
+/// The five parts are written one by one, each followed by a space unless the stream is told
+/// `nospace()`. If writing the amount throws, the first part has been written.
 /// \relatesalso ReconciledBalance
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& balance);
 

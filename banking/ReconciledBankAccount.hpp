@@ -15,26 +15,26 @@ namespace orv::banking {
 
 /// A bank account with the balance and the date of its last reconciliation.
 ///
-/// Use it to record what the bank reported: to reconcile an account is to record the balance that
-/// the bank had on a date. It is a value of its own, which no registry knows. If its bank is renamed,
-/// or its kind changed, replace it:
-/// `account = ReconciledBankAccount(renamed, account.balance(), account.reconciledOn());`
+/// To reconcile an account is to record the balance that the bank reported for a date. An account
+/// is a value of its own, which no registry knows. If its bank is renamed, or its kind changed,
+/// replace it. The program keeps the minor units and the currency of each amount that it will
+/// store: `mintar::Money` does not give them back.
 ///
 /// **Rules.** A reconciliation never moves back in time, and never changes the currency.
 ///
-/// **Lifetime, threads, memory.** As \ref conventions say (in `BankError.hpp`). Unlike an amount, an
-/// account can be assigned one in another currency, so all containers and algorithms work.
+/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`. An account can be
+/// assigned one in another currency, so all containers and algorithms work.
 ///
-/// **State after a move.** As \ref conventions say; the account moved from keeps its date.
+/// **State after a move.** The date, the number and the kind are there; the rest is not to be read.
 ///
-/// **Also.** `QVariant` holds an account without a macro. There is no `==`, no order and no hash.
-/// An amount cannot be read back: to store it, keep its minor units and currency beside the account.
+/// There is no `==`, no order and no hash.
 ///
 /// \snippet snippets.cpp ReconciledBankAccount
 class ORV_BANKING_EXPORT ReconciledBankAccount
 {
 public:
-  /// Creates an account without a bank, a number, a kind, an amount and a date.
+  /// Creates an account without a bank, an amount or a date; its number is invalid and its kind
+  /// `Unknown`.
   ReconciledBankAccount() = default;
 
   /// Creates an account that was last reconciled as given, or never if there is no date. Nothing is
@@ -68,13 +68,13 @@ public:
   /// Returns the date of the last reconciliation, or nothing.
   [[nodiscard]] std::optional<QDate> const& reconciledOn() const noexcept { return reconciledOn_; }
 
-  /// Records the balance that the bank reported on a date. Not logged.
+  /// Records the balance that the bank reported for a date. Not logged.
   ///
   /// The first reconciliation accepts any date, each further one the same date or a later one. An
   /// invalid date is earlier than every valid date, and equal to itself.
   ///
-  /// \throws BankError if `date` is earlier than the last date; the text gives the last date, then
-  ///         `date`, which shows nothing if it is invalid: "in the past, ."
+  /// \throws BankError if `date` is earlier than the last date; its text gives the last date, then
+  ///         `date`, of which an invalid one is empty: "… cannot be updated to be in the past, ."
   /// \throws std::invalid_argument if the account has a currency and `balance` has another one or
   ///         none; its text is in English, for the programmer
   void reconcile(QDate const& date, mintar::Money const& balance);
@@ -87,8 +87,8 @@ private:
 
 /// Writes `Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)`.
 ///
-/// The account is what `<<` writes of it, the balance as the user's locale shows it, the date in ISO
-/// 8601 or `<optional-value-not-set>`.
+/// The account is what `<<` writes of it, the balance as the user's locale shows it, the date in
+/// ISO 8601 or `<optional-value-not-set>`.
 /// \relatesalso ReconciledBankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             ReconciledBankAccount const& account);
