@@ -39,8 +39,8 @@ namespace orv::banking {
 ///
 /// Numbers have no index: to find who holds one, the registry asks bank after bank. In the
 /// complexities, B is the number of banks, N that of all accounts, A that of the accounts of the
-/// largest bank, and M that of the bank passed. A call without a complexity takes O(log B), and
-/// O(1) as a member of the range.
+/// largest bank, and M that of the bank passed. A member function without a complexity takes at
+/// most O(log B).
 ///
 /// \snippet snippets.cpp BankMap
 class ORV_BANKING_EXPORT BankMap
