@@ -66,7 +66,7 @@ namespace orv::banking {
 /// Catch it where a user's change is carried out, and show `what()`: a translated text in UTF-8
 /// that names the bank and the rule, such as "There is an issue with the bank 'Elm'. Cannot close a
 /// bank that is already closed." There is no error code and no bank in it. To learn who holds a
-/// number, call `BankMap::find`. The page [Calls](docs/calls.md), which is installed in
+/// number, call `BankMap::find`. The page \ref calls "Calls", which is installed in
 /// `share/doc/orv-banking`, has the text of each error.
 ///
 /// \snippet snippets.cpp BankError
