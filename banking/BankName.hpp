@@ -47,6 +47,13 @@ public:
   /// Returns whether the name is empty. A name created from a text is not.
   [[nodiscard]] bool isEmpty() const noexcept { return institution_.isEmpty(); }
 
+  /// Compares the texts by UTF-16 code unit.
+  /// \since 1.1.1
+  friend std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs) noexcept
+  {
+    return lhs.institution_.compare(rhs.institution_) <=> 0;
+  }
+
 private:
   QString institution_;
 };
@@ -56,14 +63,6 @@ private:
 inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
 {
   return lhs.institution() == rhs.institution();
-}
-
-/// Compares the texts by UTF-16 code unit.
-/// \since 1.1.1
-/// \relatesalso BankName
-inline std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs) noexcept
-{
-  return lhs.institution().compare(rhs.institution()) <=> 0;
 }
 
 /// Returns whether `lhs` comes before `rhs`.
