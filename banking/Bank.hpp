@@ -96,8 +96,8 @@ private:
 /// \relatesalso Bank
 ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
-/// Writes `Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
-/// Closed: false)`.
+/// Writes "Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
+/// Closed: false)".
 ///
 /// The unbalanced parenthesis is kept for programs that compare the text. The stream is left in
 /// `std::boolalpha` mode.

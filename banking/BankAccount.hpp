@@ -36,7 +36,7 @@ struct BankAccount
 [[nodiscard]] ORV_BANKING_EXPORT QString presentationText(BankAccount const& account,
                                                           foundation::LocaleAware localeAware);
 
-/// Writes `Bank (…), Account Type (…)`, with what `<<` writes of the name and of number and kind.
+/// Writes "Bank (…), Account Type (…)", with what `<<` writes of the name and of number and kind.
 /// \relatesalso BankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccount const& account);
 

@@ -105,7 +105,7 @@ struct AccountNumberBankType
 [[nodiscard]] ORV_BANKING_EXPORT QString presentationText(AccountNumberBankType const& account,
                                                           foundation::LocaleAware localeAware);
 
-/// Writes `Bank Account Number (100), Bank Account Type (Loan)`.
+/// Writes "Bank Account Number (100), Bank Account Type (Loan)".
 /// \relatesalso AccountNumberBankType
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             AccountNumberBankType const& account);

@@ -196,7 +196,7 @@ private:
   std::map<BankName, Bank> banks_;
 };
 
-/// Writes `Bank Map (…=>…, …=>…)`, with what `<<` writes of each name and bank.
+/// Writes "Bank Map (…=>…, …=>…)", with what `<<` writes of each name and bank.
 ///
 /// If there are banks, the stream is left in `std::boolalpha` mode.
 /// \relatesalso BankMap

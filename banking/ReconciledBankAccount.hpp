@@ -85,7 +85,7 @@ private:
   std::optional<QDate> reconciledOn_;
 };
 
-/// Writes `Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)`.
+/// Writes "Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)".
 ///
 /// The account is what `<<` writes of it, the balance as the user's locale shows it, the date in
 /// ISO 8601 or `<optional-value-not-set>`.
