@@ -3,8 +3,8 @@
 #include "support/ScopedTranslator.hpp"
 #include "support/Testing.hpp"
 
+#include <future>
 #include <random>
-#include <thread>
 
 // Each in its thread, as registries share nothing.
 TEST(Steps, LeaveWhatTheModelHolds)
@@ -17,8 +17,8 @@ TEST(Steps, LeaveWhatTheModelHolds)
     };
     EXPECT_NO_THROW(takeSteps(500, draw)) << "seed " << seed;
   };
-  std::vector<std::jthread> threads;
+  std::vector<std::future<void>> threads; // whose ends they wait for
   for (unsigned int seed = 0; seed < 50; ++seed) {
-    threads.emplace_back(takeRandomSteps, seed);
+    threads.push_back(std::async(std::launch::async, takeRandomSteps, seed));
   }
 }
