@@ -1,5 +1,7 @@
 #include "support/Refusal.hpp"
 
+#include <foundation/Date.hpp>
+
 static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount>);
 static_assert(std::is_nothrow_move_constructible_v<ReconciledBankAccount>);
 
@@ -32,7 +34,7 @@ TEST(ReconciledBankAccount, HoldsWhatIsNotRefused)
     try {
       subject.reconcile(newDate, newBalance);
       balance = streamed(newBalance);
-      date = newDate.toString(Qt::ISODate);
+      date = streamed(newDate);
     } catch (BankError const&) {
       seen = "earlier";
     } catch (std::invalid_argument const&) {

@@ -21,6 +21,23 @@ TEST(Date, IsShownInIsoFormOrAsTheLocaleDoes)
   QLocale::setDefault(QLocale::c());
 }
 
+// Qt has no year 0, and no ISO form for years that do not have four digits.
+TEST(Date, IsWrittenWhateverItsYear)
+{
+  std::pair<QDate, QString> const dates[] = {
+      {{1, 1, 1}, "0001-01-01"},       {{-1, 12, 31}, "0000-12-31"},
+      {{-44, 3, 15}, "-0043-03-15"},   {{9999, 12, 31}, "9999-12-31"},
+      {{12345, 6, 7}, "+12345-06-07"}, {{}, ""}};
+  for (auto const& [date, text] : dates) {
+    EXPECT_EQ(streamed(date), text);
+    EXPECT_EQ(orv::foundation::presentationText(date), text);
+    QLocale::setDefault(QLocale("fr_CA"));
+    EXPECT_EQ(orv::foundation::presentationText(date).isEmpty(), !date.isValid())
+        << text.toStdString();
+    QLocale::setDefault(QLocale::c());
+  }
+}
+
 // Qt decides the rest, such as marks of direction.
 TEST(Money, IsShownExactlyInItsCurrency)
 {
@@ -41,4 +58,16 @@ TEST(Money, IsShownExactlyInItsCurrency)
   }
   QLocale::setDefault(QLocale::c());
   EXPECT_EQ(streamed(Money()), "");
+}
+
+// Whose own format of money may write a fraction even of a whole number, as Windows' does.
+TEST(Money, IsShownExactlyAsTheSystemDoes)
+{
+  QLocale::setDefault(QLocale::system());
+  QString digits;
+  for (auto const character : streamed(dollars)) {
+    digits += character.isDigit() ? QString::number(character.digitValue()) : QString();
+  }
+  QLocale::setDefault(QLocale::c());
+  EXPECT_EQ(digits, "1250");
 }

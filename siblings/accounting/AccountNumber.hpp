@@ -2,10 +2,12 @@
 
 #include <accounting/Export.hpp>
 
+#include <QtGlobal>
+
 #include <iosfwd>
 
-class QDebug;
-class QString;
+QT_FORWARD_DECLARE_CLASS(QDebug)
+QT_FORWARD_DECLARE_CLASS(QString)
 
 namespace orv::accounting {
 

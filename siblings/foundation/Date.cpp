@@ -4,7 +4,24 @@
 #include <QLocale>
 #include <QString>
 
+#include <cstdlib>
 #include <ostream>
+
+namespace {
+
+// Qt::ISODate gives no text for years outside 1 to 9999.
+QString isoText(QDate const& date)
+{
+  if (!date.isValid()) {
+    return {};
+  }
+  auto const year = date.year() < 0 ? date.year() + 1 : date.year();
+  auto const* const sign = year < 0 ? "-" : year > 9999 ? "+" : "";
+  return sign + QString::number(std::abs(year)).rightJustified(4, u'0') +
+         date.toString(QStringLiteral("-MM-dd"));
+}
+
+} // namespace
 
 namespace orv::foundation {
 
@@ -12,13 +29,17 @@ QString presentationText(QDate const& date)
 {
   QLocale const locale;
   // The C locale's own short form differs between releases of Qt.
-  return locale.language() == QLocale::C ? date.toString(Qt::ISODate)
+  return locale.language() == QLocale::C ? isoText(date)
                                          : locale.toString(date, QLocale::ShortFormat);
 }
 
 } // namespace orv::foundation
 
+QT_BEGIN_NAMESPACE
+
 std::ostream& operator<<(std::ostream& stream, QDate const& date)
 {
-  return stream << date.toString(Qt::ISODate).toStdString();
+  return stream << isoText(date).toStdString();
 }
+
+QT_END_NAMESPACE

@@ -5,19 +5,29 @@
 
 #include <foundation/Export.hpp>
 
+#include <QtGlobal>
+
 #include <iosfwd>
 
-class QDate;
-class QString;
+QT_FORWARD_DECLARE_CLASS(QDate)
+QT_FORWARD_DECLARE_CLASS(QString)
 
 namespace orv::foundation {
 
 /// Returns the date as a user reads it: in the short form of the user's locale, `QLocale()`.
 ///
-/// In the C locale the date is in ISO 8601, 2026-01-31. The text of an invalid date is empty.
+/// In the C locale the date is written as the stream operator does. The text of an invalid date is
+/// empty.
 [[nodiscard]] ORV_FOUNDATION_EXPORT QString presentationText(QDate const& date);
 
 } // namespace orv::foundation
 
+QT_BEGIN_NAMESPACE
+
 /// Writes the date in ISO 8601, for example 2026-01-31, or nothing if the date is invalid.
+///
+/// Years outside 0 to 9999 have a sign: +12026-01-31, -0043-03-15. ISO 8601 has a year 0, which is
+/// the year -1 of `QDate`; so it counts one less than `QDate` before that.
 ORV_FOUNDATION_EXPORT std::ostream& operator<<(std::ostream& stream, QDate const& date);
+
+QT_END_NAMESPACE

@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 
 #include <ostream>
@@ -27,12 +28,15 @@ QString magnitude(QLocale const& locale, qint64 minorUnits, int decimals)
 }
 
 // How the locale arranges an amount (%1) and a currency symbol (%2). Qt formats only whole numbers
-// without rounding them to floating point, so one is formatted and taken out again.
+// without rounding them to floating point, so one is formatted and taken out again: all from its
+// first digit to its last, as the formats of Windows and macOS write "1.00".
 QString arrangement(QLocale const& locale, bool negative)
 {
+  static QRegularExpression const number(QStringLiteral("\\d(.*\\d)?"),
+                                         QRegularExpression::UseUnicodePropertiesOption);
   QString const symbol(QChar(0x00A4));
   return locale.toCurrencyString(negative ? -1 : 1, symbol)
-      .replace(locale.toString(1), QStringLiteral("%1"))
+      .replace(number, QStringLiteral("%1"))
       .replace(symbol, QStringLiteral("%2"));
 }
 
@@ -99,6 +103,8 @@ std::ostream& operator<<(std::ostream& stream, Money const& money)
 
 } // namespace mintar
 
+QT_BEGIN_NAMESPACE
+
 QDebug operator<<(QDebug debug, mintar::Money const& money)
 {
   std::ostringstream text;
@@ -106,3 +112,5 @@ QDebug operator<<(QDebug debug, mintar::Money const& money)
   text << money;
   return debug << QString::fromStdString(text.str());
 }
+
+QT_END_NAMESPACE

@@ -8,7 +8,7 @@
 
 #include <iosfwd>
 
-class QDebug;
+QT_FORWARD_DECLARE_CLASS(QDebug)
 
 namespace mintar {
 
@@ -68,6 +68,10 @@ MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money)
 
 Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
+QT_BEGIN_NAMESPACE
+
 /// Writes the text of the standard stream to a debug stream, as one `QString`.
 /// \relatesalso mintar::Money
 MINTAR_EXPORT QDebug operator<<(QDebug debug, mintar::Money const& money);
+
+QT_END_NAMESPACE
