@@ -36,4 +36,8 @@ private:
 
 } // namespace mintar
 
+QT_BEGIN_NAMESPACE
+
 Q_DECLARE_TYPEINFO(mintar::Currency, Q_RELOCATABLE_TYPE);
+
+QT_END_NAMESPACE

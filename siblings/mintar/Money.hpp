@@ -66,9 +66,9 @@ MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money)
 
 } // namespace mintar
 
-Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
-
 QT_BEGIN_NAMESPACE
+
+Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
 /// Writes the text of the standard stream to a debug stream, as one `QString`.
 /// \relatesalso mintar::Money
