@@ -197,6 +197,7 @@ void french()
 int main(int argc, char* argv[])
 {
   QCoreApplication const application(argc, argv);
+  QLocale::setDefault(QLocale::c()); // dates print the same on every system
   bankName();
   bankAccountTypes();
   bankAccount();
