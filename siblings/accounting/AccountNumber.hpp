@@ -2,18 +2,17 @@
 
 #include <accounting/Export.hpp>
 
-#include <QtGlobal>
+#include <QString>
 
 #include <iosfwd>
 
 QT_FORWARD_DECLARE_CLASS(QDebug)
-QT_FORWARD_DECLARE_CLASS(QString)
 
 namespace orv::accounting {
 
-/// The number of an account in the ledger, which is the program's own, not the bank's.
+/// The program's own number of an account in its ledger, not the one that a bank uses.
 ///
-/// Numbers are equal if their integers are equal, and are ordered by their integers.
+/// Numbers are equal if their integers are equal, and are ordered by their integers. There is no hash.
 class ORV_ACCOUNTING_EXPORT AccountNumber
 {
 public:

@@ -5,12 +5,10 @@
 
 #include <foundation/Export.hpp>
 
-#include <QtGlobal>
+#include <QDate>
+#include <QString>
 
 #include <iosfwd>
-
-QT_FORWARD_DECLARE_CLASS(QDate)
-QT_FORWARD_DECLARE_CLASS(QString)
 
 namespace orv::foundation {
 

@@ -9,7 +9,7 @@
 
 namespace orv::foundation {
 
-/// The base class of the errors that the family's libraries throw.
+/// The base class of errors with a text for the user.
 class ORV_FOUNDATION_EXPORT Error : public std::runtime_error
 {
 public:

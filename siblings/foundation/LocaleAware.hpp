@@ -4,10 +4,10 @@
 
 namespace orv::foundation {
 
-/// The choice between a text in the user's language and a plain text.
+/// The choice between a text in the user's language and an untranslated text.
 enum class LocaleAware : std::uint8_t
 {
-  No = 0,  ///< Plain text.
+  No = 0,  ///< Untranslated text.
   Yes = 1, ///< Text in the user's language.
 };
 

@@ -13,10 +13,13 @@ QT_FORWARD_DECLARE_CLASS(QDebug)
 namespace mintar {
 
 /// An exact amount of money: a whole number of minor units of a currency, such as cents.
+///
+/// Neither can be read back: a program that stores amounts keeps minor units and currency itself. An
+/// amount whose currency has an empty code is one without a currency.
 class MINTAR_EXPORT Money
 {
 public:
-  /// Creates a value without an amount and a currency.
+  /// Creates the amount zero without a currency.
   Money() noexcept;
 
   /// Creates the amount zero in this currency.
