@@ -46,4 +46,8 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 
 } // namespace orv::banking
 
+QT_BEGIN_NAMESPACE
+
 Q_DECLARE_TYPEINFO(orv::banking::BankAccount, Q_RELOCATABLE_TYPE);
+
+QT_END_NAMESPACE

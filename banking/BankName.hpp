@@ -94,7 +94,11 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankName const& name);
 
 } // namespace orv::banking
 
+QT_BEGIN_NAMESPACE
+
 Q_DECLARE_TYPEINFO(orv::banking::BankName, Q_RELOCATABLE_TYPE);
+
+QT_END_NAMESPACE
 
 namespace std {
 

@@ -39,4 +39,8 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& bala
 
 } // namespace orv::banking
 
+QT_BEGIN_NAMESPACE
+
 Q_DECLARE_TYPEINFO(orv::banking::ReconciledBalance, Q_RELOCATABLE_TYPE);
+
+QT_END_NAMESPACE

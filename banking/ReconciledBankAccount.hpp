@@ -99,4 +99,8 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& 
 
 } // namespace orv::banking
 
+QT_BEGIN_NAMESPACE
+
 Q_DECLARE_TYPEINFO(orv::banking::ReconciledBankAccount, Q_RELOCATABLE_TYPE);
+
+QT_END_NAMESPACE
