@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QString>
 
-#include <array>
 #include <ostream>
 #include <stdexcept>
 #include <typeinfo>
@@ -14,35 +13,65 @@ namespace orv::banking {
 
 namespace {
 
+using accounting::AccountTypes;
+
 struct Kind
 {
+  BankAccountTypes value;
   QStringView plainText;
-  char const* sourceText = nullptr; // the same text, for the translator
-  accounting::AccountTypes accountType{};
+  AccountTypes accountType;
 };
 
-// By value of the enumeration.
-constexpr std::array<Kind, 6> kinds{{
-    {u"Unknown", QT_TRANSLATE_NOOP("QObject", "Unknown"), accounting::AccountTypes{}},
-    {u"Chequeing", QT_TRANSLATE_NOOP("QObject", "Chequeing"), accounting::AccountTypes::Asset},
-    {u"Credit Card", QT_TRANSLATE_NOOP("QObject", "Credit Card"),
-     accounting::AccountTypes::Liability},
-    {u"Loan", QT_TRANSLATE_NOOP("QObject", "Loan"), accounting::AccountTypes::Liability},
-    {u"Savings", QT_TRANSLATE_NOOP("QObject", "Savings"), accounting::AccountTypes::Asset},
-    {u"Goal", QT_TRANSLATE_NOOP("QObject", "Goal"), accounting::AccountTypes::Asset},
-}};
-
-// The first of these wins where a translation gives two kinds the same text.
-constexpr std::array recognitionOrder{
-    BankAccountTypes::Chequeing, BankAccountTypes::Goal,    BankAccountTypes::CreditCard,
-    BankAccountTypes::Loan,      BankAccountTypes::Savings, BankAccountTypes::Unknown,
+// In the order in which texts are recognised: the first wins where a translation gives two kinds
+// the same text. u"" makes UTF-16 of the text, which the macro shows to translators.
+constexpr Kind kinds[] = {
+    {BankAccountTypes::Chequeing, u"" QT_TRANSLATE_NOOP("QObject", "Chequeing"),
+     AccountTypes::Asset},
+    {BankAccountTypes::Goal, u"" QT_TRANSLATE_NOOP("QObject", "Goal"), AccountTypes::Asset},
+    {BankAccountTypes::CreditCard, u"" QT_TRANSLATE_NOOP("QObject", "Credit Card"),
+     AccountTypes::Liability},
+    {BankAccountTypes::Loan, u"" QT_TRANSLATE_NOOP("QObject", "Loan"), AccountTypes::Liability},
+    {BankAccountTypes::Savings, u"" QT_TRANSLATE_NOOP("QObject", "Savings"), AccountTypes::Asset},
+    {BankAccountTypes::Unknown, u"" QT_TRANSLATE_NOOP("QObject", "Unknown"), AccountTypes::Unknown},
 };
 
-Kind const* findKind(BankAccountTypes type) noexcept
+constexpr Kind const* findKind(BankAccountTypes type) noexcept
 {
-  auto const index = static_cast<std::uint32_t>(type);
-  return index < kinds.size() ? &kinds[index] : nullptr;
+  for (auto const& kind : kinds) {
+    if (kind.value == type) {
+      return &kind;
+    }
+  }
+  return nullptr;
 }
+
+// A new enumerator does not compile before it stands here, and then not without a row above.
+#pragma GCC diagnostic error "-Wswitch"
+constexpr bool isEnumerator(BankAccountTypes type)
+{
+  switch (type) {
+  case BankAccountTypes::Unknown:
+  case BankAccountTypes::Chequeing:
+  case BankAccountTypes::CreditCard:
+  case BankAccountTypes::Loan:
+  case BankAccountTypes::Savings:
+  case BankAccountTypes::Goal:
+    return true;
+  }
+  return false;
+}
+
+constexpr bool isTableComplete()
+{
+  for (auto value = 0; value < 100; ++value) {
+    auto const type = static_cast<BankAccountTypes>(value);
+    if (isEnumerator(type) && findKind(type) == nullptr) {
+      return false;
+    }
+  }
+  return true;
+}
+static_assert(isTableComplete());
 
 std::logic_error conversionError(QString const& format, QString const& value)
 {
@@ -65,7 +94,7 @@ Kind const& kindOf(BankAccountTypes type)
 bool isAssetAccount(BankAccountTypes type)
 {
   if (auto const* const kind = findKind(type)) {
-    return kind->accountType == accounting::AccountTypes::Asset;
+    return kind->accountType == AccountTypes::Asset;
   }
   throw std::logic_error("Unrecognised bank account type when checking if it's an asset account.");
 }
@@ -73,7 +102,7 @@ bool isAssetAccount(BankAccountTypes type)
 bool isLiabilityAccount(BankAccountTypes type)
 {
   if (auto const* const kind = findKind(type)) {
-    return kind->accountType == accounting::AccountTypes::Liability;
+    return kind->accountType == AccountTypes::Liability;
   }
   throw std::logic_error(
       "Unrecognised bank account type when checking if it's a liability account.");
@@ -87,9 +116,9 @@ QString toNonLocalisedText(BankAccountTypes const& type)
 
 std::optional<BankAccountTypes> fromNonLocalisedText(QString const& text)
 {
-  for (auto const type : recognitionOrder) {
-    if (text == kindOf(type).plainText) {
-      return type;
+  for (auto const& kind : kinds) {
+    if (text == kind.plainText) {
+      return kind.value;
     }
   }
   return std::nullopt;
@@ -97,7 +126,7 @@ std::optional<BankAccountTypes> fromNonLocalisedText(QString const& text)
 
 QString presentationText(BankAccountTypes const& type)
 {
-  return QObject::tr(kindOf(type).sourceText);
+  return QObject::tr(kindOf(type).plainText.toUtf8().constData());
 }
 
 BankAccountTypes toBankAccountTypes(QString const& text)
@@ -105,9 +134,9 @@ BankAccountTypes toBankAccountTypes(QString const& text)
   if (auto const type = fromNonLocalisedText(text)) {
     return *type;
   }
-  for (auto const type : recognitionOrder) {
-    if (text == presentationText(type)) {
-      return type;
+  for (auto const& kind : kinds) {
+    if (text == presentationText(kind.value)) {
+      return kind.value;
     }
   }
   throw conversionError(

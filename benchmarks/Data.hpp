@@ -6,8 +6,8 @@ using namespace orv::banking;
 using orv::accounting::AccountNumber;
 using Banks = std::map<BankName, Bank>;
 
-/// Open banks, with names and account numbers from `first` on. Each call makes the same ones, in memory
-/// of their own.
+/// Open banks, with names and account numbers from `first` on. Each call makes the same ones, in
+/// memory of their own.
 inline Banks makeBanks(qint64 count, qint64 accountsEach, unsigned int first = 100'000)
 {
   // A multiple of a prime, modulo their count: neither names nor numbers come in order.

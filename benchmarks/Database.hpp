@@ -5,8 +5,9 @@
 #include <sqlite3.h>
 #include <stdexcept>
 
-/// What a program could use in place of the registry: banks and accounts as two tables of a database in
-/// memory, with unique names and numbers. Statements are prepared once; each change is one transaction.
+/// What a program could use in place of the registry: banks and accounts as two tables of a
+/// database in memory, with unique names and numbers. Statements are prepared once; each change is
+/// one transaction.
 class Database
 {
 public:

@@ -18,4 +18,8 @@ TEST(BankAccount, IsPresentedAndWritten)
   EXPECT_EQ(presentationText(account, LocaleAware::Yes), "É %1 %2: <Karte %1|7>");
   EXPECT_EQ(presentationText(account, LocaleAware::No), "É %1 %2: <Credit Card|7>");
   EXPECT_EQ(looked, QStringList({"%1 (%2)", "Credit Card", "%1 (%2)"}));
+  // Whatever is not No asks for the user's language.
+  EXPECT_EQ(presentationText(account, LocaleAware{2}), "É %1 %2: <Karte %1|7>");
+  expectWritten(account, "Bank (Financial Institution Name: (É %1 %2)), Account Type (Bank Account "
+                         "Number (7), Bank Account Type (Karte %1))");
 }

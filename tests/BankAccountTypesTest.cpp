@@ -3,17 +3,39 @@
 #include <QDir>
 
 using orv::accounting::AccountTypes;
+using orv::foundation::LocaleAware;
+
+namespace {
+
+// In the order in which texts are recognised.
+struct
+{
+  int value;
+  QString text;
+  AccountTypes accountType;
+} const kinds[] = {
+    {1, "Chequeing", AccountTypes::Asset},       {5, "Goal", AccountTypes::Asset},
+    {2, "Credit Card", AccountTypes::Liability}, {3, "Loan", AccountTypes::Liability},
+    {4, "Savings", AccountTypes::Asset},         {0, "Unknown", AccountTypes{}}};
+
+// What has been written when a value throws because of its kind, first to a standard, then to a
+// debug stream.
+QString writtenBeforeKind(auto const& value)
+{
+  std::ostringstream stream;
+  EXPECT_THROW(stream << value, std::logic_error);
+  QString text;
+  EXPECT_THROW(QDebug(&text) << value, std::logic_error);
+  return QString::fromStdString(stream.str()) + text;
+}
+
+} // namespace
 
 TEST(BankAccountTypes, HaveTextsAndClasses)
 {
-  std::tuple<QString, AccountTypes> const kinds[] = {
-      {"Unknown", AccountTypes::Unknown},       {"Chequeing", AccountTypes::Asset},
-      {"Credit Card", AccountTypes::Liability}, {"Loan", AccountTypes::Liability},
-      {"Savings", AccountTypes::Asset},         {"Goal", AccountTypes::Asset}};
   ScopedTranslator const translator;
-  int value = 0;
-  for (auto const& [text, accountType] : kinds) {
-    auto const type = static_cast<BankAccountTypes>(value++);
+  for (auto const& [value, text, accountType] : kinds) {
+    auto const type = static_cast<BankAccountTypes>(value);
     EXPECT_EQ(toAccountTypes(type), accountType);
     EXPECT_EQ(isAssetAccount(type), accountType == AccountTypes::Asset);
     EXPECT_EQ(isLiabilityAccount(type), accountType == AccountTypes::Liability);
@@ -22,16 +44,22 @@ TEST(BankAccountTypes, HaveTextsAndClasses)
     expectWritten(type, "~" + text);
     EXPECT_EQ(toBankAccountTypes(text), type);
     EXPECT_EQ(toBankAccountTypes("~" + text), type);
+    EXPECT_EQ(fromNonLocalisedText(text), type);
+    EXPECT_EQ(fromNonLocalisedText("~" + text), std::nullopt);
   }
 }
 
-TEST(BankAccountTypes, AreRecognisedInPlainTextBeforeTranslatedOnes)
+TEST(BankAccountTypes, AreRecognisedInPlainTextFirstAndInOneOrder)
 {
   ScopedTranslator const toLoan([](auto const&) { return "Loan"; });
   EXPECT_EQ(toBankAccountTypes("Loan"), Loan);
-  ScopedTranslator const toSize([](auto const& text) { return QString::number(text.size()); });
-  EXPECT_EQ(toBankAccountTypes("4"), Goal);    // before Loan
-  EXPECT_EQ(toBankAccountTypes("7"), Savings); // before Unknown
+  QStringList unlike; // the kinds whose texts are not the same as all later ones
+  ScopedTranslator const toSame(
+      [&](auto const& text) { return unlike.contains(text) ? "" : "same"; });
+  for (auto const& kind : kinds) {
+    EXPECT_EQ(toNonLocalisedText(toBankAccountTypes("same")), kind.text);
+    unlike += kind.text;
+  }
 }
 
 #ifdef ORV_BANKING_TRANSLATIONS // where they are built
@@ -43,40 +71,63 @@ TEST(BankAccountTypes, AreReadBackInEachLanguage)
     QTranslator translator;
     EXPECT_TRUE(translator.load(file.filePath()));
     QCoreApplication::installTranslator(&translator);
-    for (auto const type : {Unknown, Chequeing, CreditCard, Loan, Savings, Goal}) {
+    for (auto const& kind : kinds) {
+      auto const type = toBankAccountTypes(kind.text);
       EXPECT_EQ(toBankAccountTypes(presentationText(type)), type);
     }
   }
 }
 #endif
 
-TEST(BankAccountTypes, RefuseOtherTexts)
+// The errors are for the programmer: they are not translated.
+TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
 {
-  for (QString const text : {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "Épargne"}) {
-    expectThrows<std::logic_error>("Failed to convert from the weak value '" + text +
-                                       "' to another type for 'N3orv7banking16BankAccountTypesE'.",
-                                   [&] { return toBankAccountTypes(text); });
+  ScopedTranslator const translator;
+  QString const name(typeid(BankAccountTypes).name());
+  QString const weak("Failed to convert from the weak value '%1' to another type for '%2'.");
+  for (QString const text : {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "~~Loan"}) {
+    EXPECT_EQ(fromNonLocalisedText(text), std::nullopt);
+    EXPECT_LOGIC_ERROR(toBankAccountTypes(text), weak.arg(text, name));
+  }
+  QString const strong(
+      "Failed to convert from the strong value '%1' to the another type for '%2'.");
+  QString const side("Unrecognised bank account type when checking if it's %1 account.");
+  for (auto const& [value, digits] : {std::pair(99, "99"), std::pair(-1, "4294967295")}) {
+    AccountNumberBankType const account{hundred, BankAccountTypes{value}};
+    auto const type = account.bankAccountType;
+    EXPECT_LOGIC_ERROR(toNonLocalisedText(type), strong.arg(digits, name));
+    EXPECT_LOGIC_ERROR(presentationText(type), strong.arg(digits, name));
+    EXPECT_LOGIC_ERROR(presentationText(account, LocaleAware::No), strong.arg(digits, name));
+    EXPECT_LOGIC_ERROR(toAccountTypes(type), strong.arg(digits, name));
+    EXPECT_LOGIC_ERROR(std::ostringstream() << type, strong.arg(digits, name));
+    EXPECT_LOGIC_ERROR(isAssetAccount(type), side.arg("an asset"));
+    EXPECT_LOGIC_ERROR(isLiabilityAccount(type), side.arg("a liability"));
   }
 }
 
-TEST(BankAccountTypes, RefuseOtherValues)
+// A debug stream then shows nothing, a standard stream what comes before the kind.
+TEST(BankAccountTypes, OfNoKindAreHeldAndComparedButNotWritten)
 {
-  QString const strong("Failed to convert from the strong value '%1' to the another type for "
-                       "'N3orv7banking16BankAccountTypesE'.");
-  QString const other("Unrecognised bank account type when checking if it's %1 account.");
-  for (auto const& [value, digits] : {std::pair(6, "6"), std::pair(-1, "4294967295")}) {
-    auto const type = static_cast<BankAccountTypes>(value);
-    std::pair<QString, std::function<void()>> const refusals[] = {
-        {strong.arg(digits), [&] { return toNonLocalisedText(type); }},
-        {strong.arg(digits), [&] { return presentationText(type); }},
-        {strong.arg(digits), [&] { return toAccountTypes(type); }},
-        {strong.arg(digits), [&] { return streamed(type); }},
-        {strong.arg(digits), [&] { return debugged(type); }},
-        {other.arg("an asset"), [&] { return isAssetAccount(type); }},
-        {other.arg("a liability"), [&] { return isLiabilityAccount(type); }},
-    };
-    for (auto const& [text, call] : refusals) {
-      expectThrows<std::logic_error>(text, call);
-    }
-  }
+  BankAccount const account{pine, {hundred, noKind}};
+  QString const text("Bank (Financial Institution Name: (Pine)), Account Type (Bank Account Number "
+                     "(100), Bank Account Type (");
+  EXPECT_EQ(writtenBeforeKind(noKind), "");
+  EXPECT_EQ(writtenBeforeKind(account), text);
+  EXPECT_EQ(writtenBeforeKind(ReconciledBankAccount(account, dollars, march)),
+            "Bank Account: (" + text);
+
+  Bank const bank(pine, {{AccountNumber(9), Loan}, {hundred, noKind}}, false);
+  EXPECT_EQ(writtenBeforeKind(bank),
+            "Bank: (Financial Institution Name: (Pine)), Account Numbers: (9=>Loan, 100=>");
+  EXPECT_NE(bank, Bank(pine, {{AccountNumber(9), Loan}, {hundred, BankAccountTypes{-1}}}, false));
+  BankMap map({{pine, Bank(pine, {}, false)}});
+  map.update(bank);
+  EXPECT_EQ(map, BankMap({{pine, bank}}));
+  map.remove(pine);
+  map.add(bank);
+  EXPECT_THROW(map.remove(pine, hundred), std::logic_error);
+  EXPECT_THROW(map.add(pine, AccountNumber(), noKind), std::logic_error);
+  EXPECT_EQ(map.find(hundred), bank);
+  map.add(pine, hundred, Loan); // which repairs it
+  map.remove(pine, hundred);
 }

@@ -11,33 +11,41 @@ static_assert(QTypeInfo<BankAccount>::isRelocatable);
 
 TEST(BankName, IsRefusedWhenBlank)
 {
-  for (auto const& blank : {QString(), QString(""), QString("   "), QString("\t\n\u00a0")}) {
-    Refusal<BankName> const refusals[] = {{[&](auto& name) { name = BankName(blank); },
-                                           {},
-                                           "The name of a financial institution cannot be empty."}};
-    expectRefusals(BankName(), refusals);
+  for (auto const& blank : {QString(), QString(""), QString("   "), QString("\t\n\u00a0\u2003")}) {
+    EXPECT_REFUSED(elm, BankName(blank), {},
+                   "The name of a financial institution cannot be empty.");
   }
 }
 
 TEST(BankName, IsKeptAndWrittenAsItIs)
 {
-  EXPECT_EQ(presentationText(BankName(" É \"A\\B\"")), " É \"A\\B\"");
-  expectWritten(BankName(" É \"A\\B\""), "Financial Institution Name: ( É \"A\\B\")");
+  ScopedTranslator const translator; // which names never meet
+  auto const odd = " É \"A\\B\"" + QString(QChar(0)) + "\u200b%1\n ";
+  for (auto const& text : {odd, QString(QChar(0)), QString("\u200b")}) {
+    BankName const name(text);
+    EXPECT_EQ(presentationText(name), text);
+    EXPECT_FALSE(name.isEmpty());
+    expectWritten(name, "Financial Institution Name: (" + text + ")");
+  }
+  EXPECT_TRUE(BankName().isEmpty());
+  expectWritten(BankName(), "Financial Institution Name: ()");
 }
 
 TEST(BankName, IsOrderedByCodeUnitAndHashed)
 {
   // UTF-16 puts surrogates before U+FF21, which no other encoding does.
   QVector<BankName> ordered{BankName()};
-  for (auto const* const text : {"A", "A ", "B", "a", "\U0001F3E6", "\uFF21"}) {
+  for (auto const* const text : {"A", "A ", "B", "a", "e\u0301", "é", "\U0001F3E6", "\uFF21"}) {
     ordered += BankName(text);
   }
   for (auto const& lhs : ordered) {
     for (auto const& rhs : ordered) {
       EXPECT_EQ(lhs <=> rhs, &lhs <=> &rhs);
+      EXPECT_EQ(lhs < rhs, &lhs < &rhs);
       EXPECT_EQ(lhs == rhs, &lhs == &rhs);
     }
   }
-  EXPECT_EQ(QSet<BankName>(ordered.begin(), ordered.end()).size(), 7);
-  EXPECT_EQ(std::unordered_set<BankName>(ordered.begin(), ordered.end()).size(), 7U);
+  EXPECT_EQ(QSet<BankName>(ordered.begin(), ordered.end()).size(), 9);
+  EXPECT_EQ(std::unordered_set<BankName>(ordered.begin(), ordered.end()).size(), 9U);
+  EXPECT_NE(qHash(elm, 1), qHash(elm, 2));
 }

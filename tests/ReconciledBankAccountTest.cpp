@@ -5,58 +5,77 @@
 static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount>);
 static_assert(std::is_nothrow_move_constructible_v<ReconciledBankAccount>);
 
-BankAccount const account{elm, {some, Chequeing}};
+namespace {
+
+BankAccount const chequeing{elm, {hundred, Chequeing}};
+
+} // namespace
 
 TEST(ReconciledBankAccount, RefusesTheEarlierDate)
 {
-  Refusal<ReconciledBankAccount> const refusals[] = {
-      {[](auto& subject) { subject.reconcile(march.addDays(-1), dollars); }, elm,
-       "The last reconciled date, 2026-03-31, cannot be updated to be in the past, 2026-03-30."}};
-  expectRefusals(ReconciledBankAccount(account, dollars, march), refusals);
+  ReconciledBankAccount const account(chequeing, dollars, march);
+  EXPECT_REFUSED(
+      account, account.reconcile(march.addDays(-1), Money()), elm,
+      "The last reconciled date, 2026-03-31, cannot be updated to be in the past, 2026-03-30.");
+  EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
+                 "The last reconciled date, 2026-03-31, cannot be updated to be in the past, .");
+  QLocale::setDefault(QLocale("de_DE")); // which only the error follows
+  EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
+                 "The last reconciled date, " + QLocale().toString(march, QLocale::ShortFormat) +
+                     ", cannot be updated to be in the past, .");
+  EXPECT_TRUE(streamed(account).endsWith("Reconciled On: (2026-03-31)"));
+  QLocale::setDefault(QLocale::c());
 }
 
-TEST(ReconciledBankAccount, HoldsWhatIsNotRefused)
+TEST(ReconciledBankAccount, IsReconciledWithALaterDateInItsCurrency)
 {
-  std::tuple<QDate, qint64, QString, QString> const reconciliations[] = {
-      {march, 1, "EUR", "foreign"},
-      {QDate(), 2, "CAD", "taken"},
-      {QDate(-4000, 1, 1), 3, "CAD", "taken"},
-      {QDate(), 4, "CAD", "earlier"},
-      {march, -5, "CAD", "taken"},
-      {march.addDays(-1), 6, "EUR", "earlier"},
-      {march, 7, "CAD", "taken"}};
-  ReconciledBankAccount subject(account, Currency("CAD"));
-  auto balance = streamed(Money(Currency("CAD")));
-  QString date("<optional-value-not-set>");
-  for (auto const& [newDate, amount, currency, outcome] : reconciliations) {
-    Money const newBalance(Currency(currency), amount);
-    QString seen("taken");
-    try {
-      subject.reconcile(newDate, newBalance);
-      balance = streamed(newBalance);
-      date = streamed(newDate);
-    } catch (BankError const&) {
-      seen = "earlier";
-    } catch (std::invalid_argument const&) {
-      seen = "foreign";
-    }
-    EXPECT_EQ(seen, outcome);
-    // Assigned to another account and to itself, copied and moved, it stays whole.
-    ReconciledBankAccount other({}, Money(Currency("EUR"), 1), march);
-    auto& self = other = std::move(subject);
-    other = self;
-    other = std::move(self);
-    ReconciledBankAccount copy(other);
-    ReconciledBankAccount const moved(std::move(copy));
-    subject = ReconciledBankAccount({}, Currency("EUR")); // which has no date
-    subject = moved;
-    expectWritten(subject, "Bank Account: (" + streamed(account) + "), Balance: (" + balance +
-                               ") Reconciled On: (" + date + ")");
+  ReconciledBankAccount account(chequeing, Currency("CAD"));
+  auto const expectHeld = [&](Money const& balance, QString const& date) {
+    expectWritten(account, "Bank Account: (" + streamed(chequeing) + "), Balance: (" +
+                               streamed(balance) + ") Reconciled On: (" + date + ")");
+  };
+  EXPECT_THROW(account.reconcile(march, Money(Currency("EUR"))), std::invalid_argument);
+  expectHeld(Money(Currency("CAD")), "<optional-value-not-set>");
+  qint64 cents = 0;
+  for (auto const& date : {QDate(), QDate(), QDate(-4000, 1, 1), march, march}) {
+    Money const balance(Currency("CAD"), ++cents);
+    account.reconcile(date, balance);
+    expectHeld(balance, streamed(date));
+    EXPECT_THROW(account.reconcile(march.addDays(1), Money()), std::invalid_argument);
+    expectHeld(balance, streamed(date));
   }
+}
+
+// Also where that changes the currency, which the assignment of an amount refuses.
+TEST(ReconciledBankAccount, IsCopiedAndMovedWhole)
+{
+  ReconciledBankAccount const original(chequeing, dollars, march);
+  auto const text = streamed(original);
+  ReconciledBankAccount account({}, Currency("EUR"));
+  auto& self = account = original;
+  self = account;
+  self = std::move(account);
+  ReconciledBankAccount copy(self);
+  ReconciledBankAccount moved(std::move(copy));
+  self = ReconciledBankAccount({}, Currency("EUR")); // which has no date
+  self = std::move(moved);
+  EXPECT_EQ(streamed(self), text);
+  EXPECT_EQ(copy.reconciledOn(), march);
+  EXPECT_EQ(moved.reconciledOn(), march);
+  self.reconcile(march, Money(Currency("CAD")));
+  EXPECT_EQ(streamed(original), text);
+  self = ReconciledBankAccount();
+  EXPECT_EQ(streamed(self), "Bank Account: (" + streamed(BankAccount()) +
+                                "), Balance: () Reconciled On: (<optional-value-not-set>)");
+  self.reconcile(march, dollars); // takes any currency
+  EXPECT_EQ(self.balance(), dollars);
 }
 
 TEST(ReconciledBalance, WritesItsFieldsWithoutQuotes)
 {
-  EXPECT_EQ(debugged(ReconciledBalance{dollars, march}),
-            "Balance ( " + debugged(dollars) + "), Occurred On ( " + debugged(march) + ") ");
+  auto const money = debugged(dollars);
+  auto const date = debugged(march);
+  EXPECT_EQ(debugged(ReconciledBalance{dollars, march}, QString("next")),
+            QStringList({"Balance ( " + money[0] + "), Occurred On ( " + date[0] + ") \"next\" ",
+                         "Balance (" + money[1] + "), Occurred On (" + date[1] + ")next"}));
 }

@@ -1,154 +1,107 @@
 #include "model/Steps.hpp"
 
+#include "model/Model.hpp"
 #include "support/Log.hpp"
 
-#include <banking/BankError.hpp>
-#include <banking/BankMap.hpp>
-
+#include <sstream>
 #include <stdexcept>
-
-using namespace orv::banking;
-using orv::accounting::AccountNumber;
 
 namespace {
 
-using Accounts = std::map<AccountNumber, BankAccountTypes>;
-using Banks = std::map<BankName, Bank>;
+// Names that are easily mixed up, and numbers that differ in one byte. The first are invalid.
+BankName const names[] = {BankName(),     BankName("a"),      BankName("A"),         BankName("A "),
+                          BankName("%1"), BankName("\uFF21"), BankName("\U0001F3E6")};
+unsigned int const numbers[] = {0, 1, 2, 3, 257, 65537, 16777217, 4294967295U};
 
-char const* const names[] = {"A", "a", "A ", "%1 %2", "\uFF21", "\U0001F3E6"};
-unsigned int const numbers[] = {1, 2, 3, 257, 65537, 16777217, 4294967295U, 0};
-
-Bank drawBank(Draw const& draw)
+Bank drawBank(BankName const& name, Draw const& draw, Bounds const& bounds)
 {
-  Accounts accounts;
-  for (auto count = draw(4); count > 0; --count) {
-    accounts.emplace(numbers[draw(7)], static_cast<BankAccountTypes>(1 + draw(5)));
+  if (name.isEmpty()) {
+    return Bank();
   }
-  return Bank(BankName(names[draw(6)]), accounts, draw(4) == 0);
-}
-
-// What is told of the smallest of the numbers that a bank of another name holds, or nothing.
-QString clash(BankName const& name, Accounts const& accounts, Banks const& banks)
-{
-  for (auto const& [number, kind] : accounts) {
-    for (auto const& [otherName, other] : banks) {
-      if (otherName != name && other.accounts().contains(number)) {
-        return name.institution() + "|" + presentationText(number) + "|" + otherName.institution();
-      }
+  std::map<AccountNumber, BankAccountTypes> accounts;
+  for (unsigned int i = 1; i < bounds.numbers; ++i) {
+    if (auto const kind = draw(bounds.kinds); kind > 0 && kind < 6) {
+      accounts.emplace(numbers[i], static_cast<BankAccountTypes>(kind));
     }
   }
-  return {};
+  return Bank(name, accounts, draw(2) == 1);
 }
 
-void expect(bool holds, char const* otherwise)
+// Returns whether the operation is not refused.
+bool isDone(auto const& operation, auto& registry)
 {
-  if (!holds) {
-    throw std::logic_error(otherwise);
+  try {
+    operation(registry);
+    return true;
+  } catch (BankError const&) {
+    return false;
   }
 }
 
-// Makes the change, which is refused with a text that begins so, or else leaves these banks.
-void make(std::function<void()> const& change, QString const& refusal, BankMap& map, Banks& banks,
-          Banks const& after)
+// Lets the registry and the model do the same, and expects the same of them, or else tells `what`.
+void step(BankMap& map, Model& model, auto const& operation, auto const&... what)
 {
   auto const before = map;
-  QString seen("");
-  try {
-    change();
-  } catch (BankError const& error) {
-    seen = QString::fromUtf8(error.what());
+  auto const banksBefore = model.banks;
+  auto const isMade = isDone(operation, map);
+  auto isSame = isDone(operation, model) == isMade && std::ranges::equal(map, model.banks);
+  for (auto const& [name, bank] : map) {
+    for (auto const& [number, type] : bank.accounts()) {
+      isSame = isSame && map.find(number) == bank;
+    }
   }
-  expect(seen.isEmpty() == refusal.isEmpty() && seen.startsWith(refusal), "another outcome");
-  auto const& expected = refusal.isEmpty() ? after : banks;
-  expect(Banks(map.begin(), map.end()) == expected, "another registry");
-  expect((map == before) == (banks == expected), "wrongly equal");
-  banks = expected;
-}
-
-void construct(Draw const& draw, BankMap& map, Banks& banks)
-{
-  Banks next;
-  for (auto count = draw(6); count > 0; --count) {
-    auto const bank = drawBank(draw);
-    next[bank.name()] = bank;
+  if (!isSame || (map == before) != (model.banks == banksBefore)) {
+    std::ostringstream text;
+    ((text << "step ") << ... << what);
+    text << (isMade ? ", made" : ", refused") << "\nbefore: " << before << "\nafter: " << map;
+    throw std::logic_error(text.str());
   }
-  QString refusal;
-  for (auto const& [name, bank] : next) {
-    refusal = refusal.isEmpty() ? clash(name, bank.accounts(), next) : refusal;
-  }
-  make([&] { map = BankMap(next); }, refusal, map, banks, next);
-}
-
-void changeBank(Draw const& draw, BankMap& map, Banks& banks)
-{
-  auto const bank = drawBank(draw);
-  auto const& name = bank.name();
-  auto const newName = draw(8) > 0 ? BankName(names[draw(6)]) : BankName();
-  AccountNumber const number(numbers[draw(8)]);
-  auto const kind = static_cast<BankAccountTypes>(draw(6));
-
-  auto const hasBank = banks.contains(name);
-  // Names may refer into the registry.
-  auto const& key = hasBank && draw(2) > 0 ? map.bank(name).name() : name;
-  auto const& held = hasBank ? banks[name].accounts() : bank.accounts();
-  auto const isOpen = hasBank && !banks[name].isClosed();
-  auto const isNew = !newName.isEmpty() && !banks.contains(newName);
-  auto const isAsked = hasBank && clash(name, {{number, kind}}, banks).isEmpty();
-  auto const isGood = isAsked && number != AccountNumber() && kind != BankAccountTypes::Unknown;
-  auto with = held;
-  if (isGood) {
-    with[number] = kind;
-  }
-  auto without = held;
-  auto const isHeld = without.erase(number) > 0 && hasBank;
-
-  auto const no = name.institution() + "|";
-  auto adding = hasBank || bank.isClosed() ? no : "";
-  for (auto const& other : banks) {
-    adding = adding.isEmpty() ? clash(name, bank.accounts(), {other}) : adding;
-  }
-  auto const updating = isOpen && !bank.isClosed() ? clash(name, bank.accounts(), banks) : no;
-
-  // The change, the start of its refusal or nothing, whether it is logged, and the bank that it leaves.
-  std::tuple<std::function<void()>, QString, bool, Bank> const changes[] = {
-      {[&] { map.close(key); }, isOpen ? "" : no, hasBank, Bank(name, held, true)},
-      {[&] { map.open(key); }, isOpen || !hasBank ? no : "", hasBank, Bank(name, held, false)},
-      {[&] { map.add(key, number, kind); }, isGood ? "" : no, isAsked, Bank(name, with, !isOpen)},
-      {[&] { map.remove(key, number); }, isHeld ? "" : no, hasBank, Bank(name, without, !isOpen)},
-      {[&] { map.rename(key, newName); }, isOpen && isNew ? "" : no, false,
-       Bank(isNew ? newName : name, held, false)},
-      {[&] { map.remove(key); }, hasBank ? "" : no, false, Bank()},
-      {[&] { map.add(bank); }, adding, false, bank},
-      {[&] { map.update(bank); }, updating, false, bank},
-  };
-  auto const& [change, refusal, isLogged, left] = changes[draw(8)];
-  auto after = banks;
-  after.erase(name);
-  if (left != Bank()) {
-    after[left.name()] = left;
-  }
-  make(change, refusal, map, banks, after);
-  expect(takeMessages().size() == (isLogged ? 1 : 0), "more or fewer messages");
-  Bank holder;
-  for (auto const& [otherName, other] : banks) {
-    holder = other.accounts().contains(number) ? other : holder;
-  }
-  expect(map.find(number).value_or(Bank()) == holder, "another holder");
+  takeMessages();
 }
 
 } // namespace
 
-QString placeholdersOf(QString const& text)
+void takeSteps(unsigned int changes, Draw const& draw, Bounds const& bounds)
 {
-  return text.contains("%2") ? "%1|%2" : text.contains("%1") ? "%1" : "";
-}
-
-void takeSteps(std::size_t count, Draw const& draw)
-{
-  takeMessages();
+  std::map<BankName, Bank> banks;
+  for (unsigned int i = 0; i < bounds.names; ++i) {
+    if (draw(2) == 1) {
+      banks.emplace(names[i], drawBank(names[i], draw, bounds));
+    }
+  }
   BankMap map;
-  Banks banks;
-  for (; count > 0; --count) {
-    draw(9) > 0 ? changeBank(draw, map, banks) : construct(draw, map, banks);
+  Model model;
+  auto const construct = [&](auto& registry) {
+    registry = std::decay_t<decltype(registry)>(banks);
+  };
+  step(map, model, construct, "construct");
+  for (; changes > 0; --changes) {
+    auto const change = draw(8);
+    auto const name = names[draw(bounds.names)];
+    auto const bank = change < 2 ? drawBank(name, draw, bounds) : Bank();
+    auto const to = change == 2 ? names[draw(bounds.names)] : BankName();
+    AccountNumber const number(change == 3 || change == 4 ? numbers[draw(bounds.numbers)] : 0);
+    auto const kind = static_cast<BankAccountTypes>(change == 3 ? draw(6) : 0);
+    auto const make = [&](auto& registry) {
+      switch (change) {
+      case 0:
+        return registry.add(bank);
+      case 1:
+        return registry.update(bank);
+      case 2:
+        return registry.rename(name, to);
+      case 3:
+        return registry.add(name, number, kind);
+      case 4:
+        return registry.remove(name, number);
+      case 5:
+        return registry.close(name);
+      case 6:
+        return registry.open(name);
+      default:
+        return registry.remove(name);
+      }
+    };
+    step(map, model, make, change, name, bank, to, number, kind);
   }
 }

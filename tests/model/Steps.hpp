@@ -1,15 +1,19 @@
 #pragma once
 
-#include <QString>
-
 #include <functional>
 
-/// Gives a number below the bound.
+/// Draws a number below the bound.
 using Draw = std::function<unsigned int(unsigned int bound)>;
 
-/// Takes so many drawn steps, with a registry and with the model of one. Throws std::logic_error with what
-/// differs, where the registry does not do as the model. The translator has to be `placeholdersOf`.
-void takeSteps(std::size_t count, Draw const& draw);
+/// How many names and numbers there are to draw, and below what a bank's kind for each number is
+/// drawn, where zero and what is no kind stand for no account.
+struct Bounds
+{
+  unsigned int names = 7;
+  unsigned int numbers = 8;
+  unsigned int kinds = 20;
+};
 
-/// What is left of a text that tells which bank, number and other bank it is about.
-QString placeholdersOf(QString const& text);
+/// Makes a registry of drawn banks, and then so many drawn changes. Throws std::logic_error, which
+/// tells the step, if the registry does not do as the model.
+void takeSteps(unsigned int changes, Draw const& draw, Bounds const& bounds = {});

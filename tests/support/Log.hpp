@@ -8,8 +8,8 @@
 /// What each thread has logged. MinGW cannot link an inline variable that is thread_local.
 inline QThreadStorage<QStringList> messages;
 
-/// The message handler of the tests. It tells apart what is no info message of the default category or
-/// has a place in the source.
+/// The message handler of the tests. It tells apart what is no info message of the default category
+/// or has a place in the source.
 inline void keepMessage(QtMsgType type, QMessageLogContext const& context, QString const& text)
 {
   auto const isPlain = type == QtInfoMsg && qstrcmp(context.category, "default") == 0 &&

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// Translates the texts of the context QObject while it lives, by a tilde before them or as the function
-/// says.
+/// Translates the texts of the context QObject while it lives, by a tilde before them or as the
+/// function says.
 class ScopedTranslator : public QTranslator
 {
 public:

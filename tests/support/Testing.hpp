@@ -11,6 +11,7 @@
 #include <QLocale>
 
 #include <gmock/gmock.h>
+#include <sstream>
 
 using namespace orv::banking;
 using mintar::Currency;
@@ -18,12 +19,12 @@ using mintar::Money;
 using orv::accounting::AccountNumber;
 using enum BankAccountTypes;
 
-// Names with placeholders in them, so that a text that is filled twice shows, and a number whose bytes all
-// differ.
+// Names with placeholders in them, so that a text that is filled twice shows.
 inline BankName const elm("Elm %2");
 inline BankName const oak("Oak %1");
 inline BankName const pine("Pine");
-inline AccountNumber const some(16909060);
+inline AccountNumber const hundred(100);
+inline BankAccountTypes const noKind{99}; // is not one of the enumerators
 inline QDate const march(2026, 3, 31);
 inline Money const dollars(Currency("CAD"), 1250);
 
@@ -33,20 +34,26 @@ inline void PrintTo(QString const& text, std::ostream* stream)
   *stream << '"' << text.toStdString() << '"';
 }
 
-/// What the value writes to a standard stream.
+/// What the value writes to a standard stream in an unusual format, which stays.
 QString streamed(auto const& value)
 {
   std::ostringstream stream;
+  stream << std::hex << std::showbase << std::boolalpha;
+  auto const flags = stream.flags();
   stream << value;
+  EXPECT_TRUE(stream.flags() == flags && stream.width() == 0) << stream.str();
   return QString::fromStdString(stream.str());
 }
 
-/// What the values write to a debug stream in its default mode.
-QString debugged(auto const&... values)
+/// What the values write to a debug stream in its default mode, and to one without spaces and
+/// quotes.
+QStringList debugged(auto const&... values)
 {
   QString text;
+  QString bareText;
   (QDebug(&text) << ... << values);
-  return text;
+  (QDebug(&bareText).nospace().noquote() << ... << values);
+  return {text, bareText};
 }
 
 /// Expects the text on a standard stream and, as one QString, on a debug stream.
