@@ -3,6 +3,8 @@
 #include <banking/BankError.hpp>
 #include <banking/BankMap.hpp>
 
+#include <algorithm>
+
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
 

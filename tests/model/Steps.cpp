@@ -3,6 +3,7 @@
 #include "model/Model.hpp"
 #include "support/Log.hpp"
 
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 
