@@ -29,9 +29,14 @@ TEST(BookReader, SplitsALineIntoWords)
 
 TEST(BookReader, ReadsAmountsExactly)
 {
-  EXPECT_EQ(streamed(toMoney("-0.05", "EUR")), "-0.05\u00a0EUR");
-  EXPECT_EQ(streamed(toMoney("7", "KWD")), "7.000\u00a0KWD");
-  EXPECT_EQ(streamed(toMoney("-92233720368547758.08", "CAD")), "-92233720368547758.08\u00a0CAD");
+  auto const shown = [](char const* amount, char const* currency) {
+    return streamed(toAmount(amount, currency).money());
+  };
+  EXPECT_EQ(shown("-0.05", "EUR"), "-0.05\u00a0EUR");
+  EXPECT_EQ(shown("20.5000", "CAD"), "20.50\u00a0CAD");
+  EXPECT_EQ(shown("7", "KWD"), "7.000\u00a0KWD");
+  EXPECT_EQ(shown("2050.00", "JPY"), "2050\u00a0JPY");
+  EXPECT_EQ(shown("-92233720368547758.08", "CAD"), "-92233720368547758.08\u00a0CAD");
 }
 
 TEST(Book, RefusesLinesAndStaysAsItWas)
@@ -51,7 +56,7 @@ TEST(Book, RefusesLinesAndStaysAsItWas)
       {"reconcile 1 2026/02/28 1 CAD", "'2026/02/28' is not a date such as 2026-01-31."},
       {"reconcile 1 2026-01-31- 1 CAD", "'2026-01-31-' is not a date such as 2026-01-31."},
       {"reconcile 1 2026-02-28 1 cad", "'cad' is not a currency code such as CAD."},
-      {"reconcile 1 2026-02-28 .5 CAD", "'.5' is not an amount of CAD."},
+      {"reconcile 1 2026-02-28 .5 CAD", "'.5' is not an amount of CAD such as -1250.50."},
       {"reconcile 1 2026-01-30 1 CAD", "There is an issue with the bank 'Elm'. The last"},
       {"reconcile 1 2026-02-28 1 EUR", "The balance of the account number 1 is not kept in EUR."},
   };

@@ -34,7 +34,7 @@ QString outcome(QByteArray const& before, QByteArray const& after,
   try {
     auto const statement =
         readStatement(QByteArray(sent).replace(before, after), id, {AccountNumber(7), kind});
-    return statement.accountId + u' ' + streamed(statement.balance) + u' ' +
+    return statement.accountId + u' ' + streamed(statement.balance.money()) + u' ' +
            statement.date.toString(Qt::ISODate);
   } catch (BookError const& refusal) {
     return QString::fromUtf8(refusal.what());

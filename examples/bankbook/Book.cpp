@@ -134,7 +134,7 @@ void Book::reconcile(QStringList const& words)
 {
   auto const account = accountOnRecord(words[0]);
   auto const date = toDate(words[1]);
-  record(account, {{}, words[3], toMoney(words[2], words[3]), date});
+  record(account, {{}, toAmount(words[2], words[3]), date});
 }
 
 void Book::remove(QStringList const& words)
@@ -205,12 +205,12 @@ void Book::record(BankAccount const& account, Statement const& statement)
   // Any date is later than none.
   ReconciledBankAccount reconciled(account, known.balance, known.occurredOn);
   try {
-    reconciled.reconcile(statement.date, statement.balance);
+    reconciled.reconcile(statement.date, statement.balance.money());
   } catch (std::invalid_argument const&) { // from the money library, whose texts are not for users
     throw BookError(BookError::tr("The balance of the account number %1 is not kept in %2.")
-                        .arg(presentationText(number), statement.currency));
+                        .arg(presentationText(number), statement.balance.currency.isoCode()));
   }
-  balances_.insert_or_assign(number, ReconciledBalance{statement.balance, statement.date});
+  balances_.insert_or_assign(number, ReconciledBalance{statement.balance.money(), statement.date});
 }
 
 void Book::dropBalances()

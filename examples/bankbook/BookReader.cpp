@@ -98,7 +98,7 @@ QDate toDate(QString const& word)
   return date;
 }
 
-mintar::Money toMoney(QString const& amount, QString const& currency)
+Amount toAmount(QString const& amount, QString const& currency)
 {
   if (currency.size() != 3 || !isAll(currency, u'A', u'Z')) {
     throw BookError(BookError::tr("'%1' is not a currency code such as CAD.").arg(currency));
@@ -107,12 +107,14 @@ mintar::Money toMoney(QString const& amount, QString const& currency)
   auto const point = amount.indexOf(u'.');
   auto const whole = amount.left(point); // all of it where there is no point
   auto const decimals = point < 0 ? QString() : amount.mid(point + 1);
-  auto const minorUnits = whole + decimals.leftJustified(known.decimals(), u'0');
+  auto const beyond = QStringView(decimals).mid(known.decimals()); // what the currency has not
+  auto const minorUnits = whole + decimals.leftJustified(known.decimals(), u'0', true);
   bool fits = false;
-  mintar::Money const money(known, minorUnits.toLongLong(&fits));
+  Amount const result{known, minorUnits.toLongLong(&fits)};
   if (!fits || !isAll(whole.mid(whole.startsWith(u'-') ? 1 : 0), u'0', u'9') ||
-      (point >= 0 && !isAll(decimals, u'0', u'9')) || decimals.size() > known.decimals()) {
-    throw BookError(BookError::tr("'%1' is not an amount of %2.").arg(amount, currency));
+      (point >= 0 && !isAll(decimals, u'0', u'9')) || beyond.count(u'0') != beyond.size()) {
+    throw BookError(
+        BookError::tr("'%1' is not an amount of %2 such as -1250.50.").arg(amount, currency));
   }
-  return money;
+  return result;
 }

@@ -32,6 +32,17 @@ QString kindsOfAccount();
 /// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
 
-/// Reads an amount, for instance "-1250.5", exactly: it has no more decimals than the currency, and no
-/// more minor units than a 64-bit number holds. The currency is three capital letters.
-mintar::Money toMoney(QString const& amount, QString const& currency);
+/// An amount as a book or a bank's statement has it.
+struct Amount
+{
+  mintar::Currency currency;
+  qint64 minorUnits = 0;
+
+  [[nodiscard]] mintar::Money money() const { return {currency, minorUnits}; }
+
+  friend bool operator==(Amount const& lhs, Amount const& rhs) = default;
+};
+
+/// Reads an amount, for instance "-1250.5", exactly: decimals that the currency has not are zeros, and
+/// a 64-bit number holds the minor units. The currency is three capital letters.
+Amount toAmount(QString const& amount, QString const& currency);

@@ -55,11 +55,12 @@ auto readValue(OfxValues const& values, QString const& element, Read&& read)
 
 Statement toStatement(OfxValues const& values)
 {
-  auto const currency =
-      readValue(values, "CURDEF", [](QString const& value) { return toMoney("0", value), value; });
-  return {readValue(values, "ACCTID", [](QString const& value) { return value; }), currency,
+  auto const currency = readValue(values, "CURDEF", [](QString const& value) {
+    return toAmount("0", value).currency.isoCode();
+  });
+  return {readValue(values, "ACCTID", [](QString const& value) { return value; }),
           readValue(values, "LEDGERBAL/BALAMT",
-                    [&](QString const& value) { return toMoney(bookAmount(value), currency); }),
+                    [&](QString const& value) { return toAmount(bookAmount(value), currency); }),
           readValue(values, "LEDGERBAL/DTASOF",
                     [](QString const& value) { return toDate(bookDate(value)); })};
 }

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "BookReader.hpp"
+
 #include <banking/BankAccountTypes.hpp>
-#include <mintar/Money.hpp>
 
 #include <QDate>
 #include <QString>
@@ -10,8 +11,7 @@
 struct Statement
 {
   QString accountId; ///< what the bank calls the account
-  QString currency;  ///< of the balance, for instance "CAD"
-  mintar::Money balance;
+  Amount balance;
   QDate date; ///< the day of the balance, as the bank wrote it
 
   friend bool operator==(Statement const& lhs, Statement const& rhs) = default;
