@@ -5,25 +5,33 @@
 
 #include <banking/BankError.hpp>
 
-// Whatever the bytes, each line of such a book is carried out, or refused with nothing changed.
+// Whatever the bytes, each line of such a book is carried out, or refused with nothing changed; and what
+// is printed in the end makes the same book again.
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
+  auto const shown = [](Book& book) { return book.execute({"list"}) + book.execute({"print"}); };
   Book book;
-  auto const shown = [&book] { return book.execute("list") + book.execute("print"); };
-  auto before = shown();
+  auto before = shown(book);
   QByteArray const text(reinterpret_cast<char const*>(data), static_cast<qsizetype>(size));
   for (auto const& line : text.split('\n')) {
     try {
-      book.execute(line);
-      before = shown();
+      book.execute(toWords(toText(line)));
+      before = shown(book);
       continue;
     } catch (BookError const&) { // anything else ends the program
     } catch (orv::banking::BankError const&) {
     }
-    if (shown() != before) {
+    if (shown(book) != before) {
       std::abort();
     }
-    takeMessages();
   }
+  Book again;
+  for (auto const& line : book.execute({"print"}).toUtf8().split('\n')) {
+    again.execute(toWords(toText(line)));
+  }
+  if (shown(again) != before) {
+    std::abort();
+  }
+  takeMessages();
   return 0;
 }

@@ -1,9 +1,5 @@
-#include "Book.hpp"
 #include "BookReader.hpp"
 #include "support/Testing.hpp"
-
-#include <QFile>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -108,17 +104,4 @@ TEST(Statement, OfSeveralIsTheOneOfTheAccount)
             "The file has statements that differ, of the accounts: A-1, A-1, C-1.");
   EXPECT_EQ(outcome("</OFX>", more, Savings, "B-2"),
             "The file has no statement of the account 'B-2', but of: A-1, A-1, C-1.");
-}
-
-TEST(Statement, IsReadFromAFileBesideTheBook)
-{
-  QTemporaryDir const folder;
-  QFile file(folder.filePath("x"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(sent) == sent.size() && file.flush());
-  Book book{QDir(folder.path())};
-  book.execute("bank Elm 1=Chequeing");
-  book.execute("statement 1 x A-1");
-  EXPECT_THAT(book.execute("list").toStdString(), testing::HasSubstr("20.50\u00a0CAD  2025-12-31"));
-  EXPECT_THROW(book.execute("statement 1 y"), BookError);
-  EXPECT_THROW(book.execute("statement 1 /dev/zero"), BookError);
 }

@@ -4,34 +4,6 @@
 <context>
     <name>Book</name>
     <message>
-        <source>NAME NUMBER KIND</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER=KIND ...]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>NUMBER</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>NUMBER DATE AMOUNT CURRENCY</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>FROM TO</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Bank</source>
         <translation type="unfinished"></translation>
     </message>
@@ -76,27 +48,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>NUMBER FILE [ACCOUNTID]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>KIND is one of: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Standard output cannot be written.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The line is longer than 1 MiB.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -143,6 +99,42 @@
         <source>standard input</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>:/help.txt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No account is bound to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard input is closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -151,39 +143,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No bank holds the account number %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The command is written: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no file &apos;%1&apos; that can be read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is not kept in %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The line contains a NUL character.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The line is not UTF-8 text.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A quoted word does not end.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an account number.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -196,10 +156,6 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency code such as CAD.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount of %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -240,6 +196,66 @@
     </message>
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line contains a carriage return; lines end with a line feed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line is not UTF-8 text; save the book as UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a double quote.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an account number such as 1010.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

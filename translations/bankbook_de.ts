@@ -4,34 +4,6 @@
 <context>
     <name>Book</name>
     <message>
-        <source>NAME NUMBER KIND</source>
-        <translation>NAME NUMMER ART</translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER=KIND ...]</source>
-        <translation>NAME [NUMMER=ART ...]</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NAME</translation>
-    </message>
-    <message>
-        <source>NUMBER</source>
-        <translation>NUMMER</translation>
-    </message>
-    <message>
-        <source>NUMBER DATE AMOUNT CURRENCY</source>
-        <translation>NUMMER DATUM BETRAG WÄHRUNG</translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER]</source>
-        <translation>NAME [NUMMER]</translation>
-    </message>
-    <message>
-        <source>FROM TO</source>
-        <translation>ALT NEU</translation>
-    </message>
-    <message>
         <source>Bank</source>
         <translation>Bank</translation>
     </message>
@@ -76,28 +48,12 @@
         <translation>Schulden</translation>
     </message>
     <message>
-        <source>NUMBER FILE [ACCOUNTID]</source>
-        <translation>NUMMER DATEI [KONTOKENNUNG]</translation>
-    </message>
-    <message>
-        <source>KIND is one of: %1.</source>
-        <translation>Mögliche Werte für ART: %1.</translation>
-    </message>
-    <message>
         <source>Standard output cannot be written.</source>
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The line is longer than 1 MiB.</source>
         <translation>Die Zeile ist länger als 1 MiB.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation>help zeigt die Befehle an, quit beendet das Programm.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
         <source>Show texts, amounts and dates as in this locale.</source>
@@ -143,6 +99,42 @@
         <source>standard input</source>
         <translation>Standardeingabe</translation>
     </message>
+    <message>
+        <source>:/help.txt</source>
+        <translation>:/help_de.txt</translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
+        <translation>Das Datum %1 des Kontos mit der Nummer %2 liegt in der Zukunft: Ein früheres wird nur noch angenommen, wenn Sie die Nummer entfernen und neu hinzufügen.</translation>
+    </message>
+    <message>
+        <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
+        <translation>%1: Auszug von %2 mit dem Datum %3 und dem Saldo %4 übernommen.</translation>
+    </message>
+    <message>
+        <source>No account is bound to %1.</source>
+        <translation>Kein Konto ist gebunden an: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
+        <translation>%1 von %2 Zeilen wurden abgelehnt; --strict hält bei der ersten an.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused.</source>
+        <translation>%1 von %2 Zeilen wurden abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Standard input is closed.</source>
+        <translation>Die Standardeingabe ist geschlossen.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
+        <translation>help zeigt die Befehle an, quit beendet das Programm. Erhalten bleibt nur, was Sie von den Zeilen aufbewahren, die print anzeigt.</translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -151,40 +143,8 @@
         <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
     </message>
     <message>
-        <source>No bank holds the account number %1.</source>
-        <translation>Keine Bank führt ein Konto mit der Nummer %1.</translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;.</source>
-        <translation>Den Befehl „%1“ gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>The command is written: %1</source>
-        <translation>Der Befehl lautet: %1</translation>
-    </message>
-    <message>
-        <source>There is no file &apos;%1&apos; that can be read.</source>
-        <translation>Die Datei „%1“ fehlt oder ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is not kept in %2.</source>
-        <translation>Der Saldo des Kontos mit der Nummer %1 wird nicht in %2 geführt.</translation>
-    </message>
-    <message>
         <source>The line contains a NUL character.</source>
         <translation>Die Zeile enthält ein NUL-Zeichen.</translation>
-    </message>
-    <message>
-        <source>The line is not UTF-8 text.</source>
-        <translation>Die Zeile ist kein UTF-8-Text.</translation>
-    </message>
-    <message>
-        <source>A quoted word does not end.</source>
-        <translation>Es fehlt ein schließendes Anführungszeichen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an account number.</source>
-        <translation>„%1“ ist keine Kontonummer.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
@@ -197,10 +157,6 @@
     <message>
         <source>&apos;%1&apos; is not a currency code such as CAD.</source>
         <translation>„%1“ ist kein Währungscode wie CAD.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount of %2.</source>
-        <translation>„%1“ ist kein Betrag in %2 (Dezimaltrennzeichen: Punkt).</translation>
     </message>
     <message>
         <source>The file is not an OFX file.</source>
@@ -241,6 +197,66 @@
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Das Konto %1 hat nicht die Art, für die der Auszug gilt: „%2“.</translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation>Keine Bank führt ein Konto mit der Nummer %1; list zeigt alle an.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation>Den Befehl „%1“ gibt es nicht; help zeigt die Befehle an.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation>Die Kontonummer %1 ist an „%2“ gebunden, nicht an „%3“; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation>„%1“ ist an ein anderes Konto der Bank gebunden, %2.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation>Der Saldo des Kontos mit der Nummer %1 wird in %2 geführt, nicht in %3.</translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation>Konten mehrerer Banken sind an „%1“ gebunden. Übernehmen Sie ihre Auszüge einzeln: statement NUMMER DATEI</translation>
+    </message>
+    <message>
+        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
+        <translation>Kein Konto ist an eine Kennung in der Datei gebunden. Binden Sie eines: statement NUMMER DATEI KENNUNG, mit einer von: %1.</translation>
+    </message>
+    <message>
+        <source>The line contains a carriage return; lines end with a line feed.</source>
+        <translation>Die Zeile enthält einen Wagenrücklauf; Zeilen enden mit einem Zeilenvorschub.</translation>
+    </message>
+    <message>
+        <source>The line is not UTF-8 text; save the book as UTF-8.</source>
+        <translation>Die Zeile ist kein UTF-8-Text; speichern Sie das Haushaltsbuch als UTF-8.</translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a double quote.</source>
+        <translation>Es fehlt ein schließendes Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an account number such as 1010.</source>
+        <translation>„%1“ ist keine Kontonummer wie 1010.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
+        <translation>„%1“ ist kein Betrag in %2 wie -1250.50 (Dezimaltrennzeichen: Punkt).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
 </context>
 </TS>

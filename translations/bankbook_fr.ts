@@ -4,34 +4,6 @@
 <context>
     <name>Book</name>
     <message>
-        <source>NAME NUMBER KIND</source>
-        <translation>NOM NUMÉRO TYPE</translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER=KIND ...]</source>
-        <translation>NOM [NUMÉRO=TYPE ...]</translation>
-    </message>
-    <message>
-        <source>NAME</source>
-        <translation>NOM</translation>
-    </message>
-    <message>
-        <source>NUMBER</source>
-        <translation>NUMÉRO</translation>
-    </message>
-    <message>
-        <source>NUMBER DATE AMOUNT CURRENCY</source>
-        <translation>NUMÉRO DATE MONTANT DEVISE</translation>
-    </message>
-    <message>
-        <source>NAME [NUMBER]</source>
-        <translation>NOM [NUMÉRO]</translation>
-    </message>
-    <message>
-        <source>FROM TO</source>
-        <translation>ANCIEN NOUVEAU</translation>
-    </message>
-    <message>
         <source>Bank</source>
         <translation>Banque</translation>
     </message>
@@ -76,28 +48,12 @@
         <translation>passif</translation>
     </message>
     <message>
-        <source>NUMBER FILE [ACCOUNTID]</source>
-        <translation>NUMÉRO FICHIER [IDENTIFIANT]</translation>
-    </message>
-    <message>
-        <source>KIND is one of: %1.</source>
-        <translation>Valeurs possibles de TYPE&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>Standard output cannot be written.</source>
         <translation>Impossible d’écrire sur la sortie standard.</translation>
     </message>
     <message>
         <source>The line is longer than 1 MiB.</source>
         <translation>La ligne dépasse 1&#xa0;Mio.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave.</source>
-        <translation>Tapez help pour voir les commandes, quit pour quitter.</translation>
-    </message>
-    <message>
-        <source>%1 cannot be read: %2</source>
-        <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Show texts, amounts and dates as in this locale.</source>
@@ -143,6 +99,42 @@
         <source>standard input</source>
         <translation>entrée standard</translation>
     </message>
+    <message>
+        <source>:/help.txt</source>
+        <translation>:/help_fr.txt</translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
+        <translation>La date %1 du compte numéro %2 est dans l’avenir&#xa0;: aucune date antérieure ne sera acceptée, à moins de retirer le numéro et de l’ajouter de nouveau.</translation>
+    </message>
+    <message>
+        <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
+        <translation>%1&#xa0;: relevé de %2 repris, daté %3, avec un solde de %4.</translation>
+    </message>
+    <message>
+        <source>No account is bound to %1.</source>
+        <translation>Aucun compte n’est lié à&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
+        <translation>%1 lignes sur %2 ont été refusées; --strict s’arrête à la première.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines were refused.</source>
+        <translation>Lignes refusées&#xa0;: %1 sur %2.</translation>
+    </message>
+    <message>
+        <source>Standard input is closed.</source>
+        <translation>L’entrée standard est fermée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire ne suffit pas.</translation>
+    </message>
+    <message>
+        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
+        <translation>Tapez help pour voir les commandes, quit pour quitter. Rien n’est gardé, sauf si vous gardez les lignes que print affiche.</translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -151,40 +143,8 @@
         <translation>Le numéro de compte %1 est indiqué deux fois.</translation>
     </message>
     <message>
-        <source>No bank holds the account number %1.</source>
-        <translation>Le numéro de compte %1 n’est associé à aucune banque.</translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;.</source>
-        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas.</translation>
-    </message>
-    <message>
-        <source>The command is written: %1</source>
-        <translation>La commande s’écrit&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>There is no file &apos;%1&apos; that can be read.</source>
-        <translation>Le fichier «&#xa0;%1&#xa0;» est introuvable ou illisible.</translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is not kept in %2.</source>
-        <translation>Le solde du compte numéro %1 n’est pas tenu en %2.</translation>
-    </message>
-    <message>
         <source>The line contains a NUL character.</source>
         <translation>La ligne contient un caractère NUL.</translation>
-    </message>
-    <message>
-        <source>The line is not UTF-8 text.</source>
-        <translation>La ligne n’est pas du texte UTF-8.</translation>
-    </message>
-    <message>
-        <source>A quoted word does not end.</source>
-        <translation>Il manque un guillemet fermant.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an account number.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
@@ -197,10 +157,6 @@
     <message>
         <source>&apos;%1&apos; is not a currency code such as CAD.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un code de devise comme CAD.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount of %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2 (séparateur décimal&#xa0;: point).</translation>
     </message>
     <message>
         <source>The file is not an OFX file.</source>
@@ -241,6 +197,66 @@
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation>Le numéro de compte %1 n’est associé à aucune banque; list les affiche tous.</translation>
+    </message>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; help affiche les commandes.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation>Le numéro de compte %1 est lié à «&#xa0;%2&#xa0;», pas à «&#xa0;%3&#xa0;»; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation>«&#xa0;%1&#xa0;» est lié à un autre compte de la banque, %2.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation>Le solde du compte numéro %1 est tenu en %2, pas en %3.</translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation>Des comptes de plusieurs banques sont liés à «&#xa0;%1&#xa0;». Reprenez leurs relevés un à un&#xa0;: statement NUMÉRO FICHIER</translation>
+    </message>
+    <message>
+        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
+        <translation>Aucun compte n’est lié à un identifiant du fichier. Liez-en un&#xa0;: statement NUMÉRO FICHIER IDENTIFIANT, avec l’un de&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The line contains a carriage return; lines end with a line feed.</source>
+        <translation>La ligne contient un retour chariot; une ligne se termine par un saut de ligne.</translation>
+    </message>
+    <message>
+        <source>The line is not UTF-8 text; save the book as UTF-8.</source>
+        <translation>La ligne n’est pas du texte UTF-8; enregistrez le livre de comptes en UTF-8.</translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a double quote.</source>
+        <translation>Il manque un guillemet droit fermant.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an account number such as 1010.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte comme 1010.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2 comme -1250.50 (séparateur décimal&#xa0;: point).</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
     </message>
 </context>
 </TS>

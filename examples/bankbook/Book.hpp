@@ -4,17 +4,16 @@
 
 #include <banking/BankAccount.hpp>
 #include <banking/BankMap.hpp>
-#include <banking/ReconciledBalance.hpp>
 
-#include <QByteArrayView>
 #include <QCoreApplication>
 #include <QDir>
+#include <QMap>
 #include <QStringList>
 
 #include <map>
 #include <optional>
 
-/// A household's books: its banks, and the last reconciliation of each account that has one.
+/// A household's books: its banks, and what they reported last of each account.
 class Book
 {
   Q_DECLARE_TR_FUNCTIONS(Book)
@@ -23,51 +22,77 @@ public:
   /// Creates an empty book. The names of files in its lines are relative to `folder`.
   explicit Book(QDir const& folder = QDir::current()) : folder_(folder) {}
 
-  /// Carries out a line, which is one command, and returns what there is to show, in printable lines.
+  /// Carries out the command that the words of a line are, if any, and returns what there is to show, in
+  /// printable lines. Warns of a date that lies in the future, in a log message.
   ///
   /// \throws BookError or what the library throws, with a text for the user; the book is unchanged
-  QString execute(QByteArrayView line);
+  QString execute(QStringList const& words);
 
-  /// Returns how each command is written, a line each, and which kinds of account there are.
+  /// Returns how each command is written, a line each, and how the words of commands are.
   static QString usage();
 
 private:
+  using AccountNumber = orv::accounting::AccountNumber;
+  using Accounts = std::map<AccountNumber, orv::banking::BankAccountTypes>;
+  using BankAccount = orv::banking::BankAccount;
   using BankName = orv::banking::BankName;
 
   struct Command;
   static std::map<QString, Command> const commands_;
+  static Command const& commandNamed(QString const& name);
+  static QString helpOn(QString const& command);
+  static BookError writtenOtherwise(QString const& command);
 
-  void add(QStringList const& words);
-  void bank(QStringList const& words) { banks_.add(toBank(words)); }
-  void close(QStringList const& words) { banks_.close(BankName(words[0])); }
-  void find(QStringList const& words);
-  void list(QStringList const& words);
-  void open(QStringList const& words) { banks_.open(BankName(words[0])); }
-  void print(QStringList const& words);
-  void reconcile(QStringList const& words);
-  void remove(QStringList const& words);
-  void rename(QStringList const& words) { banks_.rename(BankName(words[0]), BankName(words[1])); }
-  void statement(QStringList const& words);
-  void update(QStringList const& words);
-
-  // The bank that NAME [NUMBER=KIND ...] describes.
+  // The bank that NAME [NUMBER=KIND ...] describes, in the words of a command.
   static orv::banking::Bank toBank(QStringList const& words);
 
-  std::optional<orv::banking::BankAccount>
-  accountOf(orv::accounting::AccountNumber const& number) const;
+  // The commands that change the book. Each takes its words, of which the first is its own name.
+  void add(QStringList const& words);
+  void bank(QStringList const& words);
+  void close(QStringList const& words) { banks_.close(BankName(words[1])); }
+  void identify(QStringList const& words);
+  void open(QStringList const& words) { banks_.open(BankName(words[1])); }
+  void reconcile(QStringList const& words);
+  void remove(QStringList const& words);
+  void rename(QStringList const& words) { banks_.rename(BankName(words[1]), BankName(words[2])); }
+  void update(QStringList const& words);
+
+  // The commands that return what there is to show.
+  QString find(QStringList const& words);
+  QString help(QStringList const& words);
+  QString list(QStringList const& words);
+  QString print(QStringList const& words);
+  QString statement(QStringList const& words);
+
+  std::optional<BankAccount> accountOf(AccountNumber const& number) const;
 
   // The account with the number that the word is. Throws where no bank holds it.
-  orv::banking::BankAccount accountOnRecord(QString const& word) const;
+  BankAccount accountOnRecord(QString const& word) const;
 
-  // Reconciles the account with what the bank says of it.
-  void record(orv::banking::BankAccount const& account, Statement const& statement);
+  // The accounts of a bank; none where there is no such bank.
+  Accounts accountsOf(BankName const& name) const;
 
-  // Drops the balances of accounts that no bank holds any more.
-  void dropBalances();
+  // Binds the account to the identifier. Throws where it is bound to another one, or another account of
+  // its bank to this one.
+  void bind(BankAccount const& account, QString const& identifier);
+
+  // Drops what is known of accounts that are no longer there, and the identifiers of those that have
+  // changed their kind.
+  void drop(Accounts const& before, Accounts const& now);
+
+  // Reconciles the account with what its bank says of it.
+  void record(BankAccount const& account, Statement const& statement);
+
+  // Does so with the statement of the identifier, binds the account to it, and returns what it says.
+  QString take(BankAccount const& account, StatementFile const& file, QString const& identifier);
+
+  // Does so with the statements of all identifiers that an account is bound to.
+  QString takeBound(StatementFile const& file);
 
   QDir folder_;
-  QString shown_; // by the command that is carried out
+  QDate today_ = QDate::currentDate();
   orv::banking::BankMap banks_;
-  // Of the accounts that have been reconciled. The registry knows which bank holds each, and as what.
-  std::map<orv::accounting::AccountNumber, orv::banking::ReconciledBalance> balances_;
+  // Of the accounts that have any. The registry knows which bank holds each, and as what.
+  QMap<AccountNumber, QString> identifiers_;
+  QMap<AccountNumber, Statement> balances_;
 };

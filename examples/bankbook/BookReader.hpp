@@ -10,24 +10,27 @@
 #include <QDate>
 #include <QStringList>
 
-// How the words of a book are read. Each function throws BookError with the word in the text.
+class QFile;
 
-/// Returns the text of a line. Throws for bytes that are not UTF-8, and for NUL.
+// How a book is read. Each function throws BookError with the word in the text.
+
+/// Returns the text of a line, which may end with CR. Throws for bytes that are not UTF-8, for NUL, and
+/// for a CR elsewhere: it would hide the lines of a file that has no other line ends.
 QString toText(QByteArrayView line);
 
-/// Returns the words of a line: blanks separate them, double quotes hold words with blanks together,
-/// with \" and \\ inside for a quote and a backslash, and # where a word could begin starts a comment.
-/// Throws for a quote that does not end.
+/// Returns the words of a line: blanks separate them, double quotes hold words with blanks together, and
+/// # where a word could begin starts a comment. In quotes, \" and \\ stand for a quote and a backslash,
+/// and \u{1B} for the character with that code. Throws for a quote that does not end.
 QStringList toWords(QString const& line);
+
+/// Returns the printable form of a word that is read back as `word`, in quotes where it takes them.
+QString writtenWord(QString const& word);
 
 /// Reads an account number in decimal digits. Zero, the invalid number, is read like any other.
 orv::accounting::AccountNumber toAccountNumber(QString const& word);
 
 /// Reads a kind of account, in English or in the user's language.
 orv::banking::BankAccountTypes toKind(QString const& word);
-
-/// Returns the kinds that an account can have, in the user's language, for a sentence.
-QString kindsOfAccount();
 
 /// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
@@ -46,3 +49,9 @@ struct Amount
 /// Reads an amount, for instance "-1250.5", exactly: decimals that the currency has not are zeros, and
 /// a 64-bit number holds the minor units. The currency is three capital letters.
 Amount toAmount(QString const& amount, QString const& currency);
+
+/// Returns the words of an amount, as `toAmount` reads them back: -1250.50 CAD.
+QString writtenAmount(Amount const& amount);
+
+/// Returns the error that the file cannot be opened or read, with the reason as the system says it.
+BookError unreadable(QFile const& file, QString const& name);

@@ -100,3 +100,11 @@ Statement readStatement(QByteArray const& content, QString const& accountId,
           : BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
                 .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
 }
+
+QStringList StatementFile::accountIds() const
+{
+  QStringList ids;
+  for (auto const& v : readOfx(content_)) ids += v.value("ACCTID").simplified();
+  ids.removeDuplicates();
+  return ids;
+}

@@ -26,3 +26,16 @@ struct Statement
 /// Complexity: linear in the size of the content.
 Statement readStatement(QByteArray const& content, QString const& accountId,
                         orv::banking::AccountNumberBankType const& account);
+
+class StatementFile
+{
+public:
+  explicit StatementFile(QByteArray const& content) : content_(content) { accountIds(); }
+  QStringList accountIds() const;
+  Statement statementFor(orv::banking::AccountNumberBankType const& account, QString const& accountId) const
+  {
+    return readStatement(content_, accountId, account);
+  }
+private:
+  QByteArray content_;
+};

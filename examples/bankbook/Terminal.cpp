@@ -1,8 +1,9 @@
 #include "Terminal.hpp"
 
 #include <QLocale>
+#include <QRegularExpression>
 
-#include <wchar.h>
+#include <utf8proc.h>
 
 namespace {
 
@@ -23,9 +24,7 @@ qsizetype widthOf(QString const& text)
 {
   qsizetype width = 0;
   for (auto const c : text.toStdU32String()) {
-    // -1 for a character that the C library does not know. Qt has set a locale for UTF-8 at the start.
-    auto const columns = wcwidth(static_cast<wchar_t>(c));
-    width += columns < 0 ? 1 : columns;
+    width += utf8proc_charwidth(static_cast<utf8proc_int32_t>(c));
   }
   return width;
 }
@@ -59,12 +58,7 @@ QString toTable(QList<QStringList> rows, QByteArrayView alignments)
       lines[i] += QStringLiteral("  ");
     }
   }
-  QString table;
-  for (auto& line : lines) {
-    while (line.endsWith(u' ')) {
-      line.chop(1);
-    }
-    table += line + u'\n';
-  }
-  return table;
+  static QRegularExpression const blanks(QStringLiteral(" +$"),
+                                         QRegularExpression::MultilineOption);
+  return lines.join(u'\n').append(u'\n').remove(blanks);
 }

@@ -13,11 +13,15 @@
 #include <QTranslator>
 
 #include <cerrno>
-#include <clocale>
 #include <cstdio>
 #include <exception>
-#include <string>
+#include <new>
+
+#if __has_include(<unistd.h>)
 #include <unistd.h>
+#else
+#include <io.h>
+#endif
 
 namespace {
 
@@ -33,18 +37,15 @@ int tell(QString const& text)
   return notRun;
 }
 
-// Writes the text to standard output. Returns whether all that was shown so far has been taken.
+// Writes the text to standard output. Returns whether it has been taken, and tells where it has not.
 bool show(QString const& text)
 {
   static QTextStream out(stdout);
   out << text << Qt::flush;
+  if (out.status() != QTextStream::Ok) {
+    tell(Book::tr("Standard output cannot be written."));
+  }
   return out.status() == QTextStream::Ok;
-}
-
-// Returns `status`, or another one where standard output did not take what was shown.
-int ended(int status)
-{
-  return show({}) ? status : tell(Book::tr("Standard output cannot be written."));
 }
 
 // All texts depend on the locale, those of the other options too: so it is set before them, by a parser
@@ -57,18 +58,24 @@ bool setLocale(QCommandLineOption const& option)
   if (!parser.isSet(option)) {
     return true;
   }
-  auto const name = parser.value(option);
+  // As LANG has it, with a character set or a variant, for instance C.UTF-8 or de_DE@euro.
+  auto const name = parser.value(option).section(u'.', 0, 0).section(u'@', 0, 0);
   QLocale::setDefault(QLocale(name)); // C for one that is not known
   return QLocale().language() != QLocale::C || name == u"C" || name == u"POSIX";
 }
 
-// Bankbook's own translation decides on the language of all texts: nobody is to read two at a time.
+// Bankbook's own translation decides on the language of all texts: nobody is to read two at a time. Only
+// why a file cannot be read may be in the system's.
 void installTranslators()
 {
-  auto const share = QCoreApplication::applicationDirPath() + "/../share/%1/translations";
+  auto const near = [](QString const& data) {
+    return QCoreApplication::applicationDirPath() + u'/' + data +
+           QStringLiteral("/%1/translations");
+  };
+  auto const installed = near(QStringLiteral(BANKBOOK_DATA));
+  auto const share = QFileInfo::exists(installed.arg("bankbook")) ? installed : near("../share");
   auto* const own = new QTranslator(QCoreApplication::instance());
   if (!own->load(QLocale(), "bankbook", "_", share.arg("bankbook")) || own->language().isEmpty()) {
-    std::setlocale(LC_MESSAGES, "C"); // what the system says of files, in English
     return;
   }
   QCoreApplication::installTranslator(own);
@@ -84,66 +91,90 @@ void installTranslators()
 
 // Reads a line without its line feed. Returns whether there was one. Throws for a line that is too long,
 // when all of it has been read.
-bool readLine(std::FILE* file, std::string& line)
+bool readLine(QFile& file, QByteArray& line)
 {
-  constexpr std::size_t longest = 1024 * 1024;
-  line.clear();
-  auto c = getc_unlocked(file);
-  auto const isEnd = c == EOF;
-  for (; c != EOF && c != '\n'; c = getc_unlocked(file)) {
-    if (line.size() <= longest) {
-      line += static_cast<char>(c);
-    }
+  constexpr qsizetype longest = 1024 * 1024;
+  line.resize(longest + 3); // for a line feed, a character too many, and the NUL that Qt appends
+  auto size = file.readLine(line.data(), line.size());
+  line.truncate(qMax(size, 0));
+  auto isWhole = line.endsWith('\n');
+  line.chop(isWhole ? 1 : 0);
+  if (line.size() <= longest) {
+    return size > 0;
   }
-  if (line.size() > longest) {
-    throw BookError(Book::tr("The line is longer than 1 MiB."));
+  while (!isWhole && size > 0) {
+    size = file.readLine(line.data(), line.size());
+    isWhole = size > 0 && line.at(size - 1) == '\n';
   }
-  return !isEnd;
+  throw BookError(Book::tr("The line is longer than 1 MiB."));
 }
 
-// Carries out the lines of `file`, one by one; `name` stands before each refusal. A null pointer is a file
-// that cannot be opened. At a prompt, what guides a person is kept apart from the results, which may go
-// elsewhere.
-int run(std::FILE* file, QString const& name, bool isStrict, bool isAtPrompt)
+// Carries out the lines of `file`, one by one; `name` stands before each refusal. At a prompt, what guides
+// a person is kept apart from the results, which may go elsewhere.
+int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
 {
-  auto error = errno;
-  auto status = allDone;
   Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
-  std::string line;
   auto const guide = [&](QString const& text) {
     if (isAtPrompt) {
       QTextStream(stderr) << text;
     }
   };
-  guide(Book::tr("Type help for the commands, or quit to leave.") + u'\n');
-  for (int number = 1; file != nullptr && (status == allDone || !isStrict); ++number) {
-    guide("bankbook> ");
+  guide(
+      Book::tr("Type help for the commands, or quit to leave. Nothing is kept unless you keep the "
+               "lines that print shows.") +
+      u'\n');
+  int commands = 0;
+  int refused = 0;
+  QByteArray line;
+  for (int number = 1;; ++number) {
+    guide(QStringLiteral("bankbook> "));
     try {
-      if (!readLine(file, line) || (isAtPrompt && line == "quit")) {
-        error = errno;
+      if (!readLine(file, line)) {
+        guide(QStringLiteral("\n"));
         break;
       }
-      if (isAtPrompt && line == "help") {
-        guide(Book::usage() + u'\n');
-      } else {
-        show(book.execute(line));
+      ++commands;
+      auto const words = toWords(toText(line));
+      commands -= words.isEmpty() ? 1 : 0;
+      if (isAtPrompt && words == QStringList{"quit"}) {
+        break;
       }
+      auto const shown = book.execute(words);
+      if (isAtPrompt && words.value(0) == u"help") {
+        guide(shown);
+      } else if (!shown.isEmpty() && !show(shown)) {
+        return notRun;
+      }
+    } catch (std::bad_alloc const&) {
+      throw;
     } catch (std::exception const& refusal) {
       auto const text = QString::fromUtf8(refusal.what());
       tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), text));
-      status = linesRefused;
+      if (isStrict) {
+        return linesRefused;
+      }
+      ++refused;
     }
   }
-  guide(line.empty() ? "\n" : ""); // where no quit ended the line
-  return file != nullptr && std::ferror(file) == 0
-             ? ended(status)
-             : tell(Book::tr("%1 cannot be read: %2").arg(name, qt_error_string(error)));
+  if (file.error() != QFile::NoError) {
+    return tell(unreadable(file, name).what());
+  }
+  if (refused > 0 && !isAtPrompt) {
+    auto const text = refused > 10
+                          ? Book::tr("%1 of %2 lines were refused; --strict stops at the first.")
+                          : Book::tr("%1 of %2 lines were refused.");
+    tell(text.arg(refused).arg(commands));
+  }
+  return refused == 0 ? allDone : linesRefused;
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
+  errno = 0;
+  auto const isTerminal = isatty(fileno(stdin)) != 0;
+  auto const isClosed = !isTerminal && errno == EBADF; // and free for the next file that is opened
   QCoreApplication const application(argc, argv);
   qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context,
                             QString const& text) { tell(qFormatLogMessage(type, context, text)); });
@@ -175,8 +206,9 @@ int main(int argc, char* argv[])
     return tell(Book::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
   }
   if (parser.isSet("help") || parser.isSet("version")) {
-    show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
-    return ended(allDone);
+    auto const isTaken =
+        show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
+    return isTaken ? allDone : notRun;
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
@@ -184,11 +216,22 @@ int main(int argc, char* argv[])
   }
 
   auto const readsStandardInput = files.isEmpty() || files.first() == u"-";
-  auto const isAtPrompt = readsStandardInput && isatty(STDIN_FILENO) == 1;
+  if (readsStandardInput && isClosed) {
+    return tell(Book::tr("Standard input is closed."));
+  }
+  auto const isAtPrompt = readsStandardInput && isTerminal;
   if (parser.isSet("quiet") || (isAtPrompt && !parser.isSet("verbose"))) {
     QLoggingCategory::setFilterRules("default.info=false");
   }
   auto const name = readsStandardInput ? Book::tr("standard input") : files.first();
-  auto* const book = readsStandardInput ? stdin : std::fopen(QFile::encodeName(name), "r");
-  return run(book, name, parser.isSet("strict"), isAtPrompt);
+  QFile book(name);
+  if (!(readsStandardInput ? book.open(fileno(stdin), QIODevice::ReadOnly)
+                           : book.open(QIODevice::ReadOnly))) {
+    return tell(unreadable(book, name).what());
+  }
+  try {
+    return run(book, name, parser.isSet("strict"), isAtPrompt);
+  } catch (std::bad_alloc const&) { // when the book is gone, and its memory with it
+    return tell(Book::tr("There is not enough memory."));
+  }
 }

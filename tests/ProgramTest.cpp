@@ -1,0 +1,137 @@
+#include "support/Testing.hpp"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#if __has_include(<pty.h>)
+#include <pty.h>
+#include <unistd.h>
+#endif
+
+using namespace testing;
+
+namespace {
+
+struct Run
+{
+  int status; // -1 for a program that does not end by itself
+  std::string out;
+  std::string err;
+};
+
+// Runs bankbook with these lines on standard input, if any, in an environment without a language.
+Run run(
+    QStringList arguments, QByteArray const& lines = {},
+    std::function<void(QProcess&)> const& prepare = [](QProcess&) {})
+{
+  QProcess process;
+  auto environment = QProcessEnvironment::systemEnvironment();
+  for (auto const* const variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+    environment.remove(variable);
+  }
+  environment.insert("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
+  process.setProcessEnvironment(environment);
+  prepare(process);
+  arguments = QStringList BANKBOOK + arguments;
+  process.start(arguments.takeFirst(), arguments);
+  process.write(lines);
+  process.closeWriteChannel();
+  auto const hasEnded =
+      process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
+  auto const read = [](QByteArray text) { return text.replace("\r\n", "\n").toStdString(); };
+  return {hasEnded ? process.exitCode() : -1, read(process.readAllStandardOutput()),
+          read(process.readAllStandardError())};
+}
+
+} // namespace
+
+TEST(Program, EndsWithAStatus)
+{
+  std::tuple<QStringList, QByteArray, int, char const*, char const*> const rows[]{
+      {{"--quiet"}, "bank Elm\r\n\n# all\nlist # it\n", 0, "Elm   open\n", ""},
+      {{}, "bank Elm\nadd Elm 1 Loan", 0, "", "Adding"},
+      {{"--quiet", "-"}, "fly\n#\n\nfind 1\nbank", 1, "No bank holds", "standard input:5: The"},
+      {{"--quiet"}, "fly\n#\n\nbank\nbank Elm", 1, "", "\n2 of 3 lines were refused.\n"},
+      {{"--strict"}, "fly\nfind 1\n", 1, "", "standard input:1: There is no command"},
+      {{"--locale", "C.UTF-8"}, "help add", 0, "add NAME NUMBER KIND\n  Adds", ""},
+      {{"--locale", "xx"}, "", 2, "", "There is no locale 'xx'."},
+      {{"--fly"}, "", 2, "", "fly"},
+      {{"a", "b"}, "", 2, "", "Only one book"},
+      {{"missing é"}, "", 2, "", "missing é cannot be read: No such file"},
+      {{"--help"}, "", 0, "  statement FILE, or", ""},
+      {{"--version"}, "", 0, "bankbook ", ""},
+      {{"--quiet"}, "bank 日本\nbank Elm\nlist", 0, "日本  open\n", ""},
+      {{},
+       QByteArray(1024 * 1024, '#') + "\n#" + QByteArray(1024 * 1024, '#') + "\n\nfly",
+       1,
+       "",
+       "standard input:2: The line is longer than 1 MiB.\nstandard input:4: "},
+  };
+  for (auto const& [arguments, lines, status, out, err] : rows) {
+    auto const [ended, shown, told] = run(arguments, lines);
+    EXPECT_EQ(ended, status) << lines.left(20).toStdString();
+    EXPECT_THAT(shown, *out != '\0' ? Matcher<std::string>(HasSubstr(out)) : IsEmpty());
+    EXPECT_THAT(told, *err != '\0' ? Matcher<std::string>(HasSubstr(err)) : IsEmpty());
+  }
+}
+
+TEST(Program, SpeaksTheLanguageOfALocale)
+{
+  auto const program = (QStringList BANKBOOK).last();
+  if (QFileInfo::exists(QFileInfo(program).path() + "/../share/bankbook")) {
+    auto const german = run({"--locale", "de_DE@euro"}, "fly\nclose Elm");
+    EXPECT_THAT(german.err, AllOf(StartsWith("Standardeingabe:1: Den Befehl „fly“ gibt es nicht"),
+                                  HasSubstr("2: Es gibt ein Problem mit der Bank „Elm“.")));
+    EXPECT_THAT(run({"--locale", "fr"}, "help add").out,
+                StartsWith("add NOM NUMÉRO TYPE\n  Ajoute"));
+  }
+}
+
+TEST(Program, ReadsABookAndTheStatementsBesideIt)
+{
+  auto const [status, out, err] = run({"--quiet", "--locale", "en_CA", HOUSEHOLD});
+  EXPECT_EQ(status, 1);
+  EXPECT_THAT(out, HasSubstr("1010  Chequeing    asset          $2,090.20  2025-12-31\n"));
+  EXPECT_THAT(err, HasSubstr("\n3 of 123 lines were refused.\n"));
+}
+
+TEST(Program, EndsWhereResultsCannotBeWritten)
+{
+  if (QFileInfo::exists("/dev/full")) {
+    auto const toFull = [](QProcess& process) { process.setStandardOutputFile("/dev/full"); };
+    auto const [status, out, err] = run({}, "list\nfly\n", toFull);
+    EXPECT_EQ(status, 2);
+    EXPECT_EQ(err, "Standard output cannot be written.\n");
+    EXPECT_EQ(run({"--help"}, {}, toFull).status, 2);
+  }
+}
+
+#if __has_include(<pty.h>)
+TEST(Program, GuidesAtAPrompt)
+{
+  int ours = 0;
+  int theirs = 0;
+  char name[100];
+  ASSERT_EQ(openpty(&ours, &theirs, name, nullptr, nullptr), 0);
+  std::string const typed = "bank Elm\n help # me\nlist\n quit # it\n";
+  ASSERT_EQ(write(ours, typed.data(), typed.size()), typed.size());
+  auto const atTerminal = [&](QProcess& process) { process.setStandardInputFile(name); };
+  auto const [status, out, err] = run({}, {}, atTerminal);
+  EXPECT_EQ(status, 0);
+  EXPECT_THAT(out, AllOf(StartsWith("Bank  State"), EndsWith("Elm   open\n")));
+  EXPECT_THAT(err,
+              AllOf(StartsWith("Type help"), HasSubstr("\nbankbook> bankbook>   add NAME NUMBER"),
+                    EndsWith("bankbook> bankbook> "), Not(HasSubstr("Adding"))));
+}
+
+TEST(Program, TellsThatStandardInputIsClosed)
+{
+  auto const close0 = [](QProcess& process) {
+    process.setChildProcessModifier([] { close(STDIN_FILENO); });
+  };
+  auto const [status, out, err] = run({}, {}, close0);
+  EXPECT_EQ(status, 2);
+  EXPECT_EQ(err, "Standard input is closed.\n");
+}
+#endif
