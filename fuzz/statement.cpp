@@ -9,7 +9,8 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
   using enum orv::banking::BankAccountTypes;
   for (auto const kind : {Chequeing, CreditCard}) {
     try {
-      auto const statement = readStatement(content, {}, {orv::accounting::AccountNumber(1), kind});
+      auto const statement =
+          StatementFile(content).statementFor({orv::accounting::AccountNumber(1), kind}, {});
       if (statement.accountId.isEmpty() || !statement.date.isValid() ||
           statement.balance.money() == mintar::Money()) {
         std::abort();

@@ -49,11 +49,7 @@ Run run(
 TEST(Program, EndsWithAStatus)
 {
   std::tuple<QStringList, QByteArray, int, char const*, char const*> const rows[]{
-      {{"--quiet"},
-       "bank Elm\nadd Elm 1 Loan\r\n\n# all\nlist # it\n",
-       0,
-       "Elm   open         1",
-       ""},
+      {{"--quiet"}, "bank Elm\nadd Elm 1 Loan\r\n\n# all\nlist # it\n", 0, "Elm   open", ""},
       {{}, "bank Elm\nadd Elm 1 Loan", 0, "", "Adding"},
       {{"--quiet", "-"}, "fly\n#\n\nfind 1\nbank", 1, "No bank holds", "standard input:5: The"},
       {{"--quiet"}, "fly\n#\n\nbank\nbank Elm", 1, "", "\n2 of 3 lines were refused.\n"},
@@ -62,15 +58,13 @@ TEST(Program, EndsWithAStatus)
       {{"--locale", "xx"}, "", 2, "", "There is no locale 'xx'."},
       {{"--fly"}, "", 2, "", "fly"},
       {{"a", "b"}, "", 2, "", "Only one book"},
-      {{"missing é"}, "", 2, "", "missing é cannot be read: No such file"},
+      {{"missing é"}, "", 2, "", "missing é cannot be read: "},
       {{"--help"}, "", 0, "  statement FILE, or", ""},
       {{"--version"}, "", 0, "bankbook ", ""},
       {{"--quiet"}, "bank 日本\nbank Elm\nlist", 0, "日本  open\n", ""},
-      {{},
-       QByteArray(1024 * 1024, '#') + "\n#" + QByteArray(1024 * 1024, '#') + "\n\nfly",
-       1,
-       "",
-       "standard input:2: The line is longer than 1 MiB.\nstandard input:4: "},
+      {{"--quiet"}, "add \u001b 1 Loan", 1, "", "bank '\\u{1B}'"},
+      {{"--quiet"}, "quit\nbank Elm\nlist", 1, "Elm   open", "no command 'quit'"},
+      {{}, QByteArray("fly\n").repeated(11), 1, "", "11 of 11 lines were refused; --strict stops"},
   };
   for (auto const& [arguments, lines, status, out, err] : rows) {
     auto const [ended, shown, told] = run(arguments, lines);
@@ -78,6 +72,20 @@ TEST(Program, EndsWithAStatus)
     EXPECT_THAT(shown, *out != '\0' ? Matcher<std::string>(HasSubstr(out)) : IsEmpty());
     EXPECT_THAT(told, *err != '\0' ? Matcher<std::string>(HasSubstr(err)) : IsEmpty());
   }
+}
+
+TEST(Program, RefusesLongLinesAndGoesOn)
+{
+  QTemporaryDir const folder;
+  QFile book(folder.filePath("book"));
+  QByteArray const longest(1024 * 1024, '#');
+  ASSERT_TRUE(book.open(QIODevice::WriteOnly));
+  book.write(longest + '\n' + longest.repeated(3) + "\n\nfly");
+  book.close();
+  EXPECT_THAT(
+      run({book.fileName()}).err,
+      MatchesRegex(
+          ".*:2: The line is longer than 1 MiB.\n.*:4: There is.*\n2 of 2 lines were refused.\n"));
 }
 
 TEST(Program, SpeaksTheLanguageOfALocale)

@@ -187,10 +187,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file has statements that differ, of the accounts: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -256,6 +252,14 @@
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has several such accounts; add the identifier at the end: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statements of the account &apos;%1&apos; differ.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -187,10 +187,6 @@
         <translation>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
     <message>
-        <source>The file has statements that differ, of the accounts: %1.</source>
-        <translation>Die Datei enthält verschiedene Auszüge, und zwar der Konten: %1.</translation>
-    </message>
-    <message>
         <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
         <translation>Die Datei enthält keinen Auszug des Kontos „%1“, sondern von: %2.</translation>
     </message>
@@ -257,6 +253,14 @@
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file has several such accounts; add the identifier at the end: %1.</source>
+        <translation>Die Datei hat mehrere solche Konten; fügen Sie am Ende die Kennung hinzu: %1.</translation>
+    </message>
+    <message>
+        <source>The statements of the account &apos;%1&apos; differ.</source>
+        <translation>Die Auszüge des Kontos „%1“ unterscheiden sich.</translation>
     </message>
 </context>
 </TS>

@@ -187,10 +187,6 @@
         <translation>Le fichier ne contient aucun relevé de compte bancaire ou de carte de crédit.</translation>
     </message>
     <message>
-        <source>The file has statements that differ, of the accounts: %1.</source>
-        <translation>Le fichier contient des relevés différents, pour les comptes&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
         <translation>Le fichier ne contient pas de relevé du compte «&#xa0;%1&#xa0;», mais de&#xa0;: %2.</translation>
     </message>
@@ -257,6 +253,14 @@
     <message>
         <source>%1 cannot be read: %2</source>
         <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>The file has several such accounts; add the identifier at the end: %1.</source>
+        <translation>Le fichier a plusieurs comptes de ce type; ajoutez l’identifiant à la fin&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The statements of the account &apos;%1&apos; differ.</source>
+        <translation>Les relevés du compte «&#xa0;%1&#xa0;» diffèrent.</translation>
     </message>
 </context>
 </TS>

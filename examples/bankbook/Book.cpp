@@ -40,13 +40,6 @@ QStringList helpTexts()
   return QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"));
 }
 
-// No more of a list than a message can hold.
-QString firstTen(QStringList const& words)
-{
-  return words.mid(0, 10).join(QStringLiteral(", ")) +
-         (words.size() > 10 ? QStringLiteral(", …") : QString());
-}
-
 StatementFile readStatements(QString const& fileName)
 {
   QFile file(fileName);

@@ -1,52 +1,62 @@
 #include "OfxReader.hpp"
 
-#include "BookReader.hpp"
+#include "BookError.hpp"
 
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace {
 
 struct Tag
 {
-  QString name; // in capital letters, without a namespace
+  QString name; // in capital letters, without a namespace; empty where there is no tag any more
   bool isEnd = false;
-  qsizetype begin = 0;
-  qsizetype end = 0; // where the text up to the next tag begins
+  std::size_t begin = std::string_view::npos;
+  std::size_t end = std::string_view::npos;
 };
 
-// The tags up to the first </OFX>.
-QList<Tag> tagsIn(QString const& content)
+// The first tag from a place on, past comments, sections, elements like <X/>, and a < that stands for
+// itself.
+Tag nextTag(std::string_view content, std::size_t from)
 {
-  // Comments, sections and instructions, where tags are none, and tags. What follows a + is not given up
-  // again, so that the time is linear.
-  static QRegularExpression const markup(
-      QStringLiteral("<!--(?:.*?-->|.*+)|<!\\[(?:.*?\\]\\]>|.*+)|<[!?][^>]*+|"
-                     "<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+>"),
-      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-  QList<Tag> tags;
-  for (auto const& match : markup.globalMatch(content)) {
-    auto const name = match.captured(2).toUpper();
-    auto const isEnd = match.capturedLength(1) > 0;
-    if (!name.isEmpty()) {
-      tags += {name, isEnd, match.capturedStart(), match.capturedEnd()};
+  static QRegularExpression const form(
+      QStringLiteral("^<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+(?<!/)>$"),
+      QRegularExpression::CaseInsensitiveOption);
+  for (auto at = content.find('<', from); at < content.size(); at = content.find('<', from)) {
+    auto const rest = content.substr(at);
+    auto const isComment = rest.starts_with("<!--");
+    if (isComment || rest.starts_with("<![")) {
+      auto const end = rest.find(isComment ? "-->" : "]]>");
+      if (end >= std::min(rest.find(rest.substr(0, 3), 3), rest.size())) {
+        break; // It does not end, or only where another does that begins in it.
+      }
+      from = at + end + 3;
+      continue;
     }
-    if (isEnd && name == u"OFX") {
-      break;
+    auto const tag = rest.substr(0, rest.find_first_of("<>", 1) + 1);
+    auto const match =
+        form.match(QString::fromLatin1(tag.data(), static_cast<qsizetype>(tag.size())));
+    if (match.hasMatch()) {
+      return {match.captured(2).toUpper(), match.capturedLength(1) > 0, at, at + tag.size()};
     }
+    from = at + 1;
   }
-  return tags;
+  return {};
 }
 
-QString valueOf(QString text)
+QString toValue(std::string_view bytes)
 {
-  text.replace("&nbsp;", " ");
+  auto text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  text.replace("&nbsp;", " ").replace(QChar::Null, QChar::ReplacementCharacter);
   QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();
   auto const value = xml.readElementText();
-  return xml.hasError() ? text : value; // in SGML, an ampersand may also stand for itself
+  // In SGML, an ampersand may also stand for itself.
+  return (xml.hasError() ? text : value).simplified();
 }
 
 } // namespace
@@ -57,43 +67,61 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
       bytes.startsWith("\xFE\xFF")) {
     throw BookError(BookError::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
   }
-  auto const content = QString::fromUtf8(bytes);
-  auto const tags = tagsIn(content);
-  auto const starts = std::count_if(
-      tags.begin(), tags.end(), [](auto const& tag) { return tag.name == u"OFX" && !tag.isEnd; });
-  if (starts != 1 || content.indexOf(u"<OFX", tags.last().end, Qt::CaseInsensitive) >= 0) {
-    throw BookError(starts == 0 ? BookError::tr("The file is not an OFX file.")
-                                : BookError::tr("The file is several OFX files in one."));
+  // The elements that hold others, whose tags tell whether the file is whole. All others are values: in
+  // SGML they may do without end tags, and some banks mistype them.
+  static QRegularExpression const holder(QStringLiteral(
+      "^(?:OFX|SIGNONMSGSRSV1|SONRS|FI|STATUS|(?:BANK|CREDITCARD|INVSTMT)MSGSRSV1|"
+      "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"
+      "PAYEE|CURRENCY|ORIGCURRENCY|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
+  static QRegularExpression const wanted(
+      QStringLiteral("/(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?"
+                     "(CURDEF|ACCTID|ACCTTYPE|LEDGERBAL/BALAMT|LEDGERBAL/DTASOF)$"));
+  // A statement to begin with. Its copies have the names of the values in common.
+  OfxValues blank;
+  for (auto const* name :
+       {"CURDEF", "ACCTID", "ACCTTYPE", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
+    blank.insert(name, {});
   }
-
-  // Backwards, as it takes the end tag to tell an element that holds others from one that holds a value
-  // and may do without.
   QList<OfxValues> statements;
-  QStringList parents; // of the tag, the outermost first
-  qsizetype depth = 0; // of what stands directly in the statement that the tag is in, if any
-  for (auto i = tags.size() - 1; i >= 0; --i) {
-    auto const& [name, isEnd, begin, end] = tags[i];
-    auto const isStatement = name == u"STMTRS" || name == u"CCSTMTRS";
-    auto const hasEnd = isEnd || parents.endsWith(name);
-    if ((!hasEnd && (isStatement || name == u"OFX")) || (isEnd && isStatement && depth > 0)) {
-      throw BookError(BookError::tr("The file is cut short or damaged."));
+  QString path(u'/'); // of the elements that hold the tag
+  bool isOfx = false;
+  bool isDamaged = false;
+  std::string_view const content(bytes.data(), static_cast<std::size_t>(bytes.size()));
+  for (auto tag = nextTag(content, 0), next = tag; !tag.name.isEmpty() && !isDamaged; tag = next) {
+    next = nextTag(content, tag.end);
+    auto const step = tag.name + u'/';
+    auto const isOfxStart = step == u"OFX/" && !tag.isEnd;
+    auto const isStatement = step == u"STMTRS/" || step == u"CCSTMTRS/";
+    if (isOfxStart && std::exchange(isOfx, true)) {
+      throw BookError(BookError::tr("The file is several OFX files in one."));
     }
-    if (isEnd) {
-      parents += name;
-    } else if (hasEnd) {
-      parents.removeLast();
+    if (path == u"/" && !isOfxStart) {
+      continue; // outside of it
     }
-    if (isStatement) {
-      depth = isEnd ? parents.size() : 0;
-      if (isEnd) {
-        statements.prepend(name == u"STMTRS" ? OfxValues() : OfxValues{{"ACCTTYPE", "CREDITCARD"}});
-      }
-    } else if (depth > 0 && !isEnd && parents.size() <= depth + 1 &&
-               (!hasEnd || tags[i + 1].isEnd)) {
-      auto const text = content.mid(end, tags[i + 1].begin - end);
-      auto const place = (parents.mid(depth) << name).join(u'/');
-      statements.first()[place.section("ACCTFROM/", -1)].prepend(valueOf(text) + u' ');
+    auto const value = wanted.match(path + tag.name).captured(1);
+    auto const isHolder = holder.match(tag.name).hasMatch();
+    if (!value.isEmpty()) {
+      // What is said twice is damaged, and so is an end that does not follow its start.
+      isDamaged = tag.isEnd || !statements.last()[value].isEmpty();
+      statements.last()[value] = toValue(content.substr(tag.end, next.begin - tag.end));
+      next = next.isEnd && next.name == tag.name ? nextTag(content, next.end) : next;
+    } else if (isHolder && tag.isEnd) {
+      isDamaged = !path.endsWith(u'/' + step);
+      path.chop(step.size());
+    } else if (isHolder) {
+      isDamaged = path.contains(u'/' + step) || (isStatement && path.contains(u"STMTRS/"));
+      path += step;
     }
+    if (isStatement && !tag.isEnd) {
+      statements += blank;
+      statements.last()["ACCTTYPE"] = tag.name == u"STMTRS" ? "" : "CREDITCARD";
+    }
+  }
+  if (!isOfx) {
+    throw BookError(BookError::tr("The file is not an OFX file."));
+  }
+  if (isDamaged || path != u"/") {
+    throw BookError(BookError::tr("The file is cut short or damaged."));
   }
   return statements;
 }

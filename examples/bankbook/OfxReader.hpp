@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QHash>
+#include <QMap>
 #include <QString>
 
 /// What a statement says of an account, by element. The elements of its balance are named like
 /// LEDGERBAL/BALAMT; a credit card has the ACCTTYPE CREDITCARD.
-using OfxValues = QHash<QString, QString>;
+using OfxValues = QMap<QString, QString>;
 
 /// Reads the statements of bank accounts and credit cards in an OFX file's content: SGML (version 1) or
 /// XML (version 2), in any encoding that contains ASCII.

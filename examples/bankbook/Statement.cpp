@@ -1,8 +1,5 @@
 #include "Statement.hpp"
 
-#include "BookReader.hpp"
-#include "OfxReader.hpp"
-
 #include <QRegularExpression>
 
 using enum orv::banking::BankAccountTypes;
@@ -31,18 +28,18 @@ QString bookAmount(QString const& amount)
 }
 
 // The day that a date of OFX begins with, whatever time and zone follow.
-QString bookDate(QString const& date)
+QDate readDate(QString const& date)
 {
   static QRegularExpression const day(
       QStringLiteral("^([0-9]{4})([0-9]{2})([0-9]{2})([0-9]{2}){0,3}(?![0-9]).*$"));
-  return QString(date).replace(day, QStringLiteral("\\1-\\2-\\3"));
+  return toDate(QString(date).replace(day, QStringLiteral("\\1-\\2-\\3")));
 }
 
 // What `read` makes of a value. Throws with the element and the value where it is missing or unreadable.
 template <typename Read>
 auto readValue(OfxValues const& values, QString const& element, Read&& read)
 {
-  auto const value = values.value(element).simplified();
+  auto const value = values.value(element);
   if (value.isEmpty()) {
     throw BookError(BookError::tr("The statement has no %1.").arg(element));
   }
@@ -55,56 +52,68 @@ auto readValue(OfxValues const& values, QString const& element, Read&& read)
 
 Statement toStatement(OfxValues const& values)
 {
-  auto const currency = readValue(values, "CURDEF", [](QString const& value) {
-    return toAmount("0", value).currency.isoCode();
-  });
-  return {readValue(values, "ACCTID", [](QString const& value) { return value; }),
-          readValue(values, "LEDGERBAL/BALAMT",
-                    [&](QString const& value) { return toAmount(bookAmount(value), currency); }),
-          readValue(values, "LEDGERBAL/DTASOF",
-                    [](QString const& value) { return toDate(bookDate(value)); })};
+  auto const zero =
+      readValue(values, "CURDEF", [](QString const& value) { return toAmount("0", value); });
+  auto const readAmount = [&](QString const& value) {
+    return toAmount(bookAmount(value), zero.currency.isoCode());
+  };
+  return {values.value("ACCTID"), readValue(values, "LEDGERBAL/BALAMT", readAmount),
+          readValue(values, "LEDGERBAL/DTASOF", &readDate)};
 }
 
 } // namespace
 
-Statement readStatement(QByteArray const& content, QString const& accountId,
-                        orv::banking::AccountNumberBankType const& account)
+QString firstTen(QStringList const& accountIds)
 {
-  QStringList accountIds;
-  QString otherType; // of a statement of the account, for another kind
-  QList<Statement> statements;
-  for (auto const& values : readOfx(content)) {
-    accountIds += values.value("ACCTID").simplified();
-    if (!accountId.isEmpty() && accountIds.last() != accountId) {
-      continue;
-    }
-    if (!readValue(values, "ACCTTYPE", &toKinds).contains(account.bankAccountType)) {
-      otherType = values.value("ACCTTYPE").simplified();
-    } else if (auto const statement = toStatement(values); !statements.contains(statement)) {
-      statements += statement;
-    }
-  }
-
-  if (statements.size() == 1) {
-    return statements.first();
-  }
-  auto const ids = accountIds.join(", ");
-  throw BookError(
-      accountIds.isEmpty()
-          ? BookError::tr("The file has no statement of a bank account or a credit card.")
-      : !statements.isEmpty()
-          ? BookError::tr("The file has statements that differ, of the accounts: %1.").arg(ids)
-      : otherType.isEmpty()
-          ? BookError::tr("The file has no statement of the account '%1', but of: %2.")
-                .arg(accountId, ids)
-          : BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
-                .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
+  auto const first = accountIds.mid(0, 10).join(QStringLiteral(", "));
+  return accountIds.size() > 10 ? first + QStringLiteral(", …") : first;
 }
 
-QStringList StatementFile::accountIds() const
+StatementFile::StatementFile(QByteArray const& content)
 {
-  QStringList ids;
-  for (auto const& v : readOfx(content_)) ids += v.value("ACCTID").simplified();
-  ids.removeDuplicates();
-  return ids;
+  for (auto const& values : readOfx(content)) {
+    auto const id = readValue(values, "ACCTID", [](QString const& value) { return value; });
+    auto& statements = statements_[id];
+    accountIds_ += statements.isEmpty() ? QStringList(id) : QStringList();
+    statements += values;
+  }
+  if (accountIds_.isEmpty()) {
+    throw BookError(BookError::tr("The file has no statement of a bank account or a credit card."));
+  }
+}
+
+Statement StatementFile::statementFor(orv::banking::AccountNumberBankType const& account,
+                                      QString const& accountId) const
+{
+  QList<OfxValues> found; // for the kind of account
+  QStringList ids;        // of these
+  QString otherType;      // of a statement for another kind
+  for (auto const& id : accountId.isEmpty() ? accountIds_ : QStringList(accountId)) {
+    for (auto const& values : statements_.value(id)) {
+      if (readValue(values, "ACCTTYPE", &toKinds).contains(account.bankAccountType)) {
+        found += values;
+        ids += id;
+      } else {
+        otherType = values.value("ACCTTYPE");
+      }
+    }
+  }
+  if (ids.removeDuplicates(); ids.size() > 1) {
+    throw BookError(
+        BookError::tr("The file has several such accounts; add the identifier at the end: %1.")
+            .arg(firstTen(ids)));
+  }
+  if (found.isEmpty() && otherType.isEmpty()) {
+    throw BookError(BookError::tr("The file has no statement of the account '%1', but of: %2.")
+                        .arg(accountId, firstTen(accountIds_)));
+  }
+  if (found.isEmpty()) {
+    throw BookError(
+        BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
+            .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
+  }
+  if (found.count(found.first()) < found.size()) {
+    throw BookError(BookError::tr("The statements of the account '%1' differ.").arg(ids.first()));
+  }
+  return toStatement(found.first());
 }

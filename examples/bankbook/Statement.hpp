@@ -1,11 +1,9 @@
 #pragma once
 
 #include "BookReader.hpp"
+#include "OfxReader.hpp"
 
-#include <banking/BankAccountTypes.hpp>
-
-#include <QDate>
-#include <QString>
+#include <QHash>
 
 /// What a bank's statement says of an account.
 struct Statement
@@ -13,29 +11,38 @@ struct Statement
   QString accountId; ///< what the bank calls the account
   Amount balance;
   QDate date; ///< the day of the balance, as the bank wrote it
-
-  friend bool operator==(Statement const& lhs, Statement const& rhs) = default;
 };
 
-/// Reads a statement from an OFX file's content. Among several, it is the one of the bank's
-/// `accountId`, unless that is empty, and for the kind of `account`.
-///
-/// \throws BookError if there is no such statement or several that differ, or if the file or what the
-///     statement says cannot be relied on
-///
-/// Complexity: linear in the size of the content.
-Statement readStatement(QByteArray const& content, QString const& accountId,
-                        orv::banking::AccountNumberBankType const& account);
-
+/// The statements of bank accounts and credit cards in an OFX file.
 class StatementFile
 {
 public:
-  explicit StatementFile(QByteArray const& content) : content_(content) { accountIds(); }
-  QStringList accountIds() const;
-  Statement statementFor(orv::banking::AccountNumberBankType const& account, QString const& accountId) const
-  {
-    return readStatement(content_, accountId, account);
-  }
+  /// Reads an OFX file's content.
+  ///
+  /// \throws BookError if it is not one whole OFX file, or has no such statement, or one without the
+  ///     identifier of its account
+  ///
+  /// Complexity: linear in the size of the content.
+  explicit StatementFile(QByteArray const& content);
+
+  /// Returns what the banks call the accounts, each once, in the order of the file. None is empty.
+  [[nodiscard]] QStringList accountIds() const { return accountIds_; }
+
+  /// Returns the statement of the bank's `accountId` for the kind of `account`. If `accountId` is empty,
+  /// it is the only one in the file for that kind.
+  ///
+  /// \throws BookError if there is no such statement or several that differ, or if what it says is
+  ///     missing or cannot be read
+  ///
+  /// Complexity: linear in the number of statements if `accountId` is empty, otherwise of those of the
+  /// account.
+  [[nodiscard]] Statement statementFor(orv::banking::AccountNumberBankType const& account,
+                                       QString const& accountId) const;
+
 private:
-  QByteArray content_;
+  QStringList accountIds_;
+  QHash<QString, QList<OfxValues>> statements_; // by account
 };
+
+/// Returns a list of accounts for a message, which names ten of them at most.
+QString firstTen(QStringList const& accountIds);

@@ -123,7 +123,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
       Book::tr("Type help for the commands, or quit to leave. Nothing is kept unless you keep the "
                "lines that print shows.") +
       u'\n');
-  int commands = 0;
+  int done = 0; // of the lines that hold a command
   int refused = 0;
   QByteArray line;
   for (int number = 1;; ++number) {
@@ -133,13 +133,12 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
         guide(QStringLiteral("\n"));
         break;
       }
-      ++commands;
       auto const words = toWords(toText(line));
-      commands -= words.isEmpty() ? 1 : 0;
       if (isAtPrompt && words == QStringList{"quit"}) {
         break;
       }
       auto const shown = book.execute(words);
+      done += words.isEmpty() ? 0 : 1;
       if (isAtPrompt && words.value(0) == u"help") {
         guide(shown);
       } else if (!shown.isEmpty() && !show(shown)) {
@@ -163,7 +162,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
     auto const text = refused > 10
                           ? Book::tr("%1 of %2 lines were refused; --strict stops at the first.")
                           : Book::tr("%1 of %2 lines were refused.");
-    tell(text.arg(refused).arg(commands));
+    tell(text.arg(refused).arg(done + refused));
   }
   return refused == 0 ? allDone : linesRefused;
 }
