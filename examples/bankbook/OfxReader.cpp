@@ -72,16 +72,10 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
   static QRegularExpression const holder(QStringLiteral(
       "^(?:OFX|SIGNONMSGSRSV1|SONRS|FI|STATUS|(?:BANK|CREDITCARD|INVSTMT)MSGSRSV1|"
       "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"
-      "PAYEE|CURRENCY|ORIGCURRENCY|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
+      "(?:EXTD)?PAYEE|(?:ORIG)?CURRENCY|IMAGEDATA|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
   static QRegularExpression const wanted(
-      QStringLiteral("/(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?"
+      QStringLiteral("^/OFX/(?:.*/)?(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?"
                      "(CURDEF|ACCTID|ACCTTYPE|LEDGERBAL/BALAMT|LEDGERBAL/DTASOF)$"));
-  // A statement to begin with. Its copies have the names of the values in common.
-  OfxValues blank;
-  for (auto const* name :
-       {"CURDEF", "ACCTID", "ACCTTYPE", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
-    blank.insert(name, {});
-  }
   QList<OfxValues> statements;
   QString path(u'/'); // of the elements that hold the tag
   bool isOfx = false;
@@ -95,33 +89,28 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
     if (isOfxStart && std::exchange(isOfx, true)) {
       throw BookError(BookError::tr("The file is several OFX files in one."));
     }
-    if (path == u"/" && !isOfxStart) {
-      continue; // outside of it
-    }
-    auto const value = wanted.match(path + tag.name).captured(1);
-    auto const isHolder = holder.match(tag.name).hasMatch();
-    if (!value.isEmpty()) {
-      // What is said twice is damaged, and so is an end that does not follow its start.
-      isDamaged = tag.isEnd || !statements.last()[value].isEmpty();
+    if (auto const value = wanted.match(path + tag.name).captured(1); !value.isEmpty()) {
+      // What is said twice is damaged, and so is an end tag that is not next.
+      isDamaged = tag.isEnd || statements.last().contains(value);
       statements.last()[value] = toValue(content.substr(tag.end, next.begin - tag.end));
       next = next.isEnd && next.name == tag.name ? nextTag(content, next.end) : next;
-    } else if (isHolder && tag.isEnd) {
+    } else if (tag.isEnd && holder.match(tag.name).hasMatch()) {
       isDamaged = !path.endsWith(u'/' + step);
       path.chop(step.size());
-    } else if (isHolder) {
-      isDamaged = path.contains(u'/' + step) || (isStatement && path.contains(u"STMTRS/"));
+    } else if (holder.match(tag.name).hasMatch()) {
+      // No whole file is deeper: in one that is, each step would take longer than the last.
+      isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/"));
       path += step;
     }
-    if (isStatement && !tag.isEnd) {
-      statements += blank;
-      statements.last()["ACCTTYPE"] = tag.name == u"STMTRS" ? "" : "CREDITCARD";
+    if (isStatement && !tag.isEnd && path.startsWith(u"/OFX/")) {
+      statements += tag.name == u"STMTRS" ? OfxValues() : OfxValues{{"ACCTTYPE", "CREDITCARD"}};
     }
-  }
-  if (!isOfx) {
-    throw BookError(BookError::tr("The file is not an OFX file."));
   }
   if (isDamaged || path != u"/") {
     throw BookError(BookError::tr("The file is cut short or damaged."));
+  }
+  if (!isOfx) {
+    throw BookError(BookError::tr("The file is not an OFX file."));
   }
   return statements;
 }

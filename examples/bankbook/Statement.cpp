@@ -15,8 +15,10 @@ QList<orv::banking::BankAccountTypes> toKinds(QString const& type)
       {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
       {"CREDITCARD", {CreditCard}},
   };
-  auto const found = kinds.find(type.toUpper());
-  return found != kinds.end() ? *found : throw BookError(type);
+  if (auto const found = kinds.find(type.toUpper()); found != kinds.end()) {
+    return *found;
+  }
+  throw BookError(type);
 }
 
 // An amount of OFX as a book has it: without a plus, with a point for a comma, and a digit before it.
