@@ -1,6 +1,6 @@
 #include "Statement.hpp"
-#include "support/Testing.hpp"
 
+#include "support/Testing.hpp"
 
 namespace {
 
