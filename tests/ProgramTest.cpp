@@ -118,7 +118,7 @@ TEST(Program, EndsWhereItCannotReadOrWrite)
     EXPECT_EQ(run({"--help"}, {}, toFull).status, 2);
   }
   if (QFileInfo::exists("/proc/self/mem")) { // which opens, and cannot be read
-    EXPECT_EQ(run({"/proc/self/mem"}).err, "/proc/self/mem cannot be read: Input/output error\n");
+    EXPECT_THAT(run({"/proc/self/mem"}).err, StartsWith("/proc/self/mem cannot be read: "));
   }
 }
 
