@@ -8,6 +8,10 @@ TEST(BankAccount, IsPresentedAndWritten)
   expectWritten(account, "Bank (Financial Institution Name: (É %1 %2)), Account Type (Bank Account "
                          "Number (7), Bank Account Type (Credit Card))");
   EXPECT_EQ(presentationText(BankAccount{}, LocaleAware::No), ": 0 (Unknown)");
+  QLocale::setDefault(QLocale("de_DE")); // which groups digits, but not those of account numbers
+  EXPECT_EQ(presentationText(AccountNumberBankType{AccountNumber(12345), Loan}, LocaleAware::Yes),
+            "12345 (Loan)");
+  QLocale::setDefault(QLocale::c());
 
   // The inner format is looked up either way, before the kind; the outer one never.
   QStringList looked;

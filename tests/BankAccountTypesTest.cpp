@@ -92,7 +92,7 @@ TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
   QString const strong(
       "Failed to convert from the strong value '%1' to the another type for '%2'.");
   QString const side("Unrecognised bank account type when checking if it's %1 account.");
-  for (auto const& [value, digits] : {std::pair(99, "99"), std::pair(-1, "4294967295")}) {
+  for (auto const& [value, digits] : {std::pair(65537, "65537"), std::pair(-1, "4294967295")}) {
     AccountNumberBankType const account{hundred, BankAccountTypes{value}};
     auto const type = account.bankAccountType;
     EXPECT_LOGIC_ERROR(toNonLocalisedText(type), strong.arg(digits, name));

@@ -34,13 +34,14 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, banks(bank(oak, 9), bank(oak, 9), {}), elm,
                  "The key name does not match the value name, Oak %1.");
   EXPECT_REFUSED(map, banks(bank(elm), bank(oak), closed(elm)), pine,
-                 "The key name does not match the value name, Elm %2.");
+                 "The key name does not match the value name, Elm  € %2.");
   EXPECT_REFUSED(map, banks(bank(elm, 9, 100), bank(pine, 100), bank(pine, 9)), elm,
                  "The account '9' is associated with the bank 'Pine' and cannot be used again.");
   EXPECT_REFUSED(
       map, banks(bank(elm, 100), bank(oak, 100), bank(pine, 100)), elm,
       "The account '100' is associated with the bank 'Oak %1' and cannot be used again.");
   EXPECT_REFUSED(map, map.bank(none), none, "Failed to locate a bank by that name.");
+  EXPECT_REFUSED(map, map.bank({}), {}, "Failed to locate a bank by that name.");
   EXPECT_REFUSED(map, map.close(none), none, "Cannot close a bank that does not exist.");
   EXPECT_REFUSED(map, map.open(none), none, "Cannot open a bank that does not exist.");
   EXPECT_REFUSED(map, map.add(none, hundred, noKind), none,
@@ -57,7 +58,7 @@ TEST(BankMap, RefusesToBreakItsRules)
                  "added again.");
   EXPECT_REFUSED(map, map.remove(none), none, "Cannot remove a bank that does not exist.");
   EXPECT_REFUSED(map, map.rename(none, elm), none,
-                 "Cannot rename to 'Elm %2' when the bank does not exist.");
+                 "Cannot rename to 'Elm  € %2' when the bank does not exist.");
   EXPECT_REFUSED(map, map.rename(pine, oak), pine,
                  "Cannot rename to 'Oak %1' as it already exists.");
   EXPECT_REFUSED(map, map.rename(pine, {}), pine, "Cannot rename to an empty bank name.");
@@ -68,6 +69,9 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.update(bank(elm, 3, 100)), elm,
                  "Cannot update the account number, 3, as the bank 'Pine' is already associated "
                  "with that number.");
+  BankMap const nameless({{BankName(), Bank()}});
+  EXPECT_REFUSED(nameless, nameless.rename({}, {}), {},
+                 "Cannot rename to '' as it already exists.");
   // What is left to a bank, it logs.
   EXPECT_REFUSED(map, map.close(pine), pine, "Cannot close a bank that is already closed.", 1);
   EXPECT_REFUSED(map, map.add(oak, hundred, Unknown), oak,
@@ -87,7 +91,7 @@ TEST(BankMap, LogsOnlyWhatItPassesOnToABank)
   auto const& held = map.bank(oak);
   map.close(held.name());
   map.open(held.name());
-  map.add(held.name(), held.accounts().begin()->first, Goal);
+  map.add(held.name(), held.accounts().begin()->first, Loan);
   map.remove(held.name(), held.accounts().begin()->first);
   EXPECT_EQ(takeMessages().size(), 4);
   EXPECT_EQ(map, BankMap({{oak, bank(oak)}}));
@@ -95,13 +99,15 @@ TEST(BankMap, LogsOnlyWhatItPassesOnToABank)
 
 TEST(BankMap, TellsItsBanksInNameOrder)
 {
-  BankName const small("elm %2");
+  BankName const small("elm  € %2");
   BankMap const map({{oak, bank(oak)}, {small, closed(small)}, {elm, bank(elm, 3)}});
   EXPECT_THAT(map.names(), testing::ElementsAre(elm, oak, small));
   EXPECT_EQ(streamed(map),
-            "Bank Map (Financial Institution Name: (Elm %2)=>" + streamed(map.bank(elm)) +
+            "Bank Map (Financial Institution Name: (Elm  € %2)=>" + streamed(map.bank(elm)) +
                 ", Financial Institution Name: (Oak %1)=>" + streamed(map.bank(oak)) +
-                ", Financial Institution Name: (elm %2)=>" + streamed(map.bank(small)) + ")");
+                ", Financial Institution Name: (elm  € %2)=>" + streamed(map.bank(small)) + ")");
+  EXPECT_EQ(map.find(AccountNumber(3)), map.bank(elm));
+  EXPECT_EQ(map.find(AccountNumber(2)), std::nullopt);
   std::ostringstream stream;
   stream << BankMap() << false;
   EXPECT_EQ(stream.str(), "Bank Map ()0");

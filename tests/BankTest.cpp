@@ -72,12 +72,20 @@ TEST(Bank, WritesItsAccountsInAnyFormatAndStaysInBoolalpha)
 {
   AccountNumber const largest(4294967295U);
   expectWritten(Bank(elm, {{largest, Loan}, {AccountNumber(9), Goal}, {hundred, Loan}}, true),
-                "Bank: (Financial Institution Name: (Elm %2)), Account Numbers: (9=>Goal, "
+                "Bank: (Financial Institution Name: (Elm  € %2)), Account Numbers: (9=>Goal, "
                 "100=>Loan, 4294967295=>Loan), Is Closed: true)");
   std::ostringstream stream;
   stream << Bank() << false;
   EXPECT_EQ(stream.str(), "Bank: (Financial Institution Name: ()), Account Numbers: (), Is Closed: "
                           "false)false");
+}
+
+TEST(Bank, ChangesOneAccount)
+{
+  Bank bank(elm, {{AccountNumber(1), Loan}, {hundred, Loan}, {AccountNumber(200), Loan}}, false);
+  bank.add(hundred, Goal);
+  bank.remove(AccountNumber(1));
+  EXPECT_EQ(bank, Bank(elm, {{hundred, Goal}, {AccountNumber(200), Loan}}, false));
 }
 
 TEST(Bank, EqualsOneOfTheSameNameAccountsAndState)

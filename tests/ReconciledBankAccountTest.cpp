@@ -67,6 +67,7 @@ TEST(ReconciledBankAccount, IsCopiedAndMovedWhole)
   self = ReconciledBankAccount();
   EXPECT_EQ(streamed(self), "Bank Account: (" + streamed(BankAccount()) +
                                 "), Balance: () Reconciled On: (<optional-value-not-set>)");
+  EXPECT_EQ(ReconciledBankAccount({}, dollars, QDate()).reconciledOn(), QDate());
   self.reconcile(march, dollars); // takes any currency
   EXPECT_EQ(self.balance(), dollars);
 }

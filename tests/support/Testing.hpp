@@ -19,8 +19,8 @@ using mintar::Money;
 using orv::accounting::AccountNumber;
 using enum BankAccountTypes;
 
-// Names with placeholders in them, so that a text that is filled twice shows.
-inline BankName const elm("Elm %2");
+// A text that is filled twice, simplified or not in UTF-8 shows by these names.
+inline BankName const elm("Elm  € %2");
 inline BankName const oak("Oak %1");
 inline BankName const pine("Pine");
 inline AccountNumber const hundred(100);
