@@ -14,12 +14,12 @@ namespace orv::banking {
 /// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
 /// Use it to describe a bank for a `BankMap`, or to change several things of one bank at once: copy
-/// it from the registry, change the copy, and pass that to `BankMap::update`.
+/// it from the registry, change the copy, and pass that to `BankMap::update`, while both are open.
 ///
-/// **Rules.** A bank that is created with a name has one, no invalid account number, and no account
-/// of the kind `Unknown`. To close a closed bank and to open an open one are errors. A closed bank
-/// still adds and removes accounts. A default-constructed bank has no name; all calls work on it,
-/// with an empty name in their messages.
+/// **Rules.** No bank holds the invalid account number or an account of the kind `Unknown`. To
+/// close a closed bank and to open an open one are errors. A closed bank still adds and removes
+/// accounts. Only a default-constructed bank has no name; its calls work, with an empty name in
+/// messages.
 ///
 /// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
 ///
@@ -43,7 +43,8 @@ public:
 
   /// Returns the account numbers with their kinds, the smallest number first.
   ///
-  /// An iterator is valid until its number is removed, or the bank is assigned to, updated or gone.
+  /// An iterator is valid until its number is removed, or the bank is assigned to, moved, swapped,
+  /// updated, renamed or destroyed.
   [[nodiscard]] std::map<accounting::AccountNumber, BankAccountTypes> const&
   accounts() const noexcept
   {

@@ -17,9 +17,9 @@ using accounting::AccountTypes;
 
 struct Kind
 {
-  BankAccountTypes value;
+  BankAccountTypes value{};
   QStringView plainText;
-  AccountTypes accountType;
+  AccountTypes accountType{};
 };
 
 // In the order in which texts are recognised: the first wins where a translation gives two kinds

@@ -68,7 +68,8 @@ fromNonLocalisedText(QString const& text);
 /// Returns the kind that has this text, untranslated or in the user's language.
 ///
 /// Use it for what a user writes. The text must be equal letter for letter. An untranslated text
-/// wins where it is also the translation of another kind.
+/// wins over a translation, and of kinds with the same translation the first of `Chequeing`,
+/// `Goal`, `CreditCard`, `Loan`, `Savings` and `Unknown`.
 ///
 /// \throws std::logic_error if no kind has the text. Its text is in English, for the programmer:
 ///         tell the user in words of your own
@@ -98,7 +99,7 @@ struct AccountNumberBankType
 /// Returns the number and the kind as a user reads them, such as "100 (Credit Card)".
 ///
 /// For `LocaleAware::No` the text of the kind is untranslated, for every other value it is in the
-/// user's language. The translator arranges number and kind either way: do not store the whole.
+/// user's language. For both, the translation arranges number and kind: do not store the whole.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso AccountNumberBankType

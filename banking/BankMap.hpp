@@ -21,16 +21,16 @@ namespace orv::banking {
 ///
 /// **Rules.** Each bank is registered under its own name, no bank holds the invalid account number,
 /// and no two banks hold the same account number. A name may be empty: one default-constructed bank
-/// can be registered, and is found under `BankName()`. Each error names the bank that is passed,
-/// and that of `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an account
-/// number are passed on to the bank once the registry has checked its own rules: the bank logs
-/// them, and its rules apply too.
+/// can be registered, and is found under `BankName()`. The text of each error names the bank that
+/// is passed, and of `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an
+/// account number are passed on to the bank once the registry has checked its own rules: the bank
+/// logs them, and its rules apply too.
 ///
 /// **Lifetime.** A reference or an iterator to a bank is valid until that bank is removed or
-/// renamed, or the registry is assigned to, moved, swapped or destroyed; an end iterator until the
-/// last four. After any other change, `update` included, it refers to the bank as it is then; only
-/// iterators into the accounts of a bank end with its `update`. Arguments may refer into the
-/// registry: `banks.remove(banks.bank(name).name())` is fine.
+/// renamed, or the registry is assigned to, moved, swapped or destroyed; an end iterator until one
+/// of these befalls the registry. After any other change, `update` included, it refers to the bank
+/// as it is then. `Bank::accounts` says how long iterators into the accounts are valid. Arguments
+/// may refer into the registry: `banks.remove(banks.bank(name).name())` is fine.
 ///
 /// **Threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`. A bank passed
 /// with `std::move` is moved from even if the call throws.
@@ -92,7 +92,7 @@ public:
   /// Returns whether a bank of this name is registered. Letter case matters.
   [[nodiscard]] bool hasBank(BankName const& name) const noexcept;
 
-  /// Returns a copy of the bank that holds the account number, or nothing.
+  /// Returns a copy of the bank, open or closed, that holds the account number, or nothing.
   ///
   /// Complexity: O(B log A), and the copy.
   [[nodiscard]] std::optional<Bank> find(accounting::AccountNumber const& number) const;
@@ -143,7 +143,8 @@ public:
 
   /// Adds a bank under its name. Not logged.
   ///
-  /// `add(Bank())` registers a bank under the empty name, and throws the second time.
+  /// `add(Bank())` registers a bank under the empty name, and throws the second time. A bank after
+  /// a move is not `Bank()`: do not pass it.
   ///
   /// \throws BankError if the bank is closed
   /// \throws BankError if a bank of its name is registered already

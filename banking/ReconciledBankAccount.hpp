@@ -17,13 +17,14 @@ namespace orv::banking {
 ///
 /// To reconcile an account is to record the balance that the bank reported for a date. An account
 /// is a value of its own, which no registry knows. If its bank is renamed, or its kind changed,
-/// replace it. The program keeps the minor units and the currency of each amount that it will
-/// store: `mintar::Money` does not give them back.
+/// replace it by one of the new `BankAccount`, its `balance()` and its `reconciledOn()`. The
+/// program keeps the minor units and the currency of each amount that it will store:
+/// `mintar::Money` does not give them back.
 ///
 /// **Rules.** A reconciliation never moves back in time, and never changes the currency.
 ///
-/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`. An account can be
-/// assigned one in another currency, so all containers and algorithms work.
+/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`. An assignment may
+/// change the currency, so all containers and algorithms work.
 ///
 /// **State after a move.** The date, the number and the kind are there; the rest is not to be read.
 ///
