@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
   for (auto const kind : {Chequeing, CreditCard}) {
     try {
       auto const statement =
-          StatementFile(content).statementFor({orv::accounting::AccountNumber(1), kind}, {});
+          statementFor({orv::accounting::AccountNumber(1), kind}, toStatements(content), {});
       if (statement.accountId.isEmpty() || !statement.date.isValid() ||
           statement.balance.money() == mintar::Money()) {
         std::abort();

@@ -29,8 +29,8 @@ QString outcome(QByteArray const& before, QByteArray const& after,
 {
   EXPECT_TRUE(sent.contains(before)) << before.data();
   try {
-    auto const statement = StatementFile(QByteArray(sent).replace(before, after))
-                               .statementFor({AccountNumber(7), kind}, id);
+    auto const statements = toStatements(QByteArray(sent).replace(before, after));
+    auto const statement = statementFor({AccountNumber(7), kind}, statements, id);
     return statement.accountId + u' ' + streamed(statement.balance.money()) + u' ' +
            statement.date.toString(Qt::ISODate);
   } catch (BookError const& refusal) {
@@ -50,7 +50,7 @@ TEST(Statement, TakesWhatBanksSend)
       {"20.50", "-92233720368547758.08", "A-1 -92233720368547758.08", Chequeing},
       {"235959.000[-5:EST]", "0000[+14]", "A-1 20.50", Chequeing},
       {"A-1", "&nbsp; A&amp;&#66;\n<![CDATA[<1>]]>", "A&B <1> 20.50", Chequeing},
-      {"A-1", QByteArray("A\0001", 3), "A\uFFFD1 20.50", Chequeing},
+      {"A-1", QByteArray("A\0001", 3), "A\\u{0}1 20.50", Chequeing},
       // Values of one transaction, with end tags of others or without any.
       {"<NAME>", "<MEMO>shop</NAME><DTUSER>20091017</DTPOSTED><X></X><NAME>", "A-1 20.50",
        Chequeing},
@@ -71,32 +71,35 @@ TEST(Statement, TakesWhatBanksSend)
 TEST(Statement, RefusesWhatCannotBeReliedOn)
 {
   QString const missing("The statement has no %1.");
-  QString const unread("The statement's %1 cannot be read.");
-  QString const severalFiles("The file is several OFX files in one.");
+  QString const damaged("The file is cut short, damaged, or several files in one.");
+  QString const noOfx("The file is not an OFX file, or is one in UTF-16 or UTF-32.");
+  QString const noAmount("'%1' is not an amount such as -1250.50 CAD.");
+  QString const noDate("'%1' is not a date such as 2026-01-31.");
   std::tuple<QByteArray, QByteArray, QString> const rows[]{
-      {sent, QByteArray("<\0O\0", 4), "The file is in UTF-16 or UTF-32, which cannot be read."},
-      {sent, "<html></html>", "The file is not an OFX file."},
+      {sent, QByteArray("<\0O\0", 4), noOfx},
+      {sent, "<html></html>", noOfx},
       {sent, "<OFX></OFX>", "The file has no statement of a bank account or a credit card."},
-      {"<STMTRS>", "</OFX><STMTRS>", "The file is cut short or damaged."},
-      {"</OFX>", "</OFX><ofx a=\"\"></ofx>", severalFiles},
-      {"<TRNUID>", "<OFX>", severalFiles},
+      {"<STMTRS>", "</OFX><STMTRS>", damaged},
+      {"</OFX>", "</OFX><ofx a=\"\"></ofx>", damaged},
+      {"<TRNUID>", "<OFX>", damaged},
       {"CURDEF>CAD", "CURDEF>", missing.arg("CURDEF")},
       {"LEDGERBAL>", "OTHERBAL>", missing.arg("LEDGERBAL/BALAMT")},
       {"A-1", " ", missing.arg("ACCTID")},
       {"<ACCTTYPE>CHECKING", "", missing.arg("ACCTTYPE")},
-      {"CHECKING", "POT", unread.arg("ACCTTYPE 'POT'")},
-      {"CURDEF>CAD", "CURDEF>CADX", unread.arg("CURDEF 'CADX'")},
-      {"20251231235959.000[-5:EST]", "20251331", unread.arg("LEDGERBAL/DTASOF '20251331'")},
-      {"235959.000[-5:EST]", "23595", unread.arg("LEDGERBAL/DTASOF '2025123123595'")},
+      {"CHECKING", "POT",
+       "The account 7 (Chequeing) is not of the kind that the statement is for, 'POT'."},
+      {"CURDEF>CAD", "CURDEF>CADX", noAmount.arg("20.50 CADX")},
+      {"20251231235959.000[-5:EST]", "20251331", noDate.arg("2025-13-31")},
+      {"235959.000[-5:EST]", "23595", noDate.arg("2025123123595")},
       {"CHECKING", "CREDITLINE",
        "The account 7 (Chequeing) is not of the kind that the statement is for, 'CREDITLINE'."},
   };
   for (auto const& [before, after, expected] : rows) {
     EXPECT_EQ(outcome(before, after), expected) << after.data();
   }
-  for (auto const* const amount : {"1,200.00", "1.234,5", "+-1", ".", "2<.2", "1.", "--1", "1 0",
+  for (auto const* const amount : {"1.200.00", "1.234.5", "+-1", "0.", "2<0.2", "1.", "--1", "1 0",
                                    "20.505", "1e3", "1.2.3", "92233720368547758.08"}) {
-    EXPECT_EQ(outcome("20.50", amount), unread.arg(QString("LEDGERBAL/BALAMT '%1'").arg(amount)));
+    EXPECT_EQ(outcome("20.50", amount), noAmount.arg(QString(amount) + " CAD"));
   }
 }
 
@@ -129,7 +132,8 @@ TEST(Statement, RefusesADamagedFile)
       {"20.50", "1<BALAMT>2"},
   };
   for (auto const& [before, after] : rows) {
-    EXPECT_EQ(outcome(before, after), "The file is cut short or damaged.") << after.left(99).data();
+    EXPECT_EQ(outcome(before, after), "The file is cut short, damaged, or several files in one.")
+        << after.left(99).data();
   }
 }
 

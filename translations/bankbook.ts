@@ -112,10 +112,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No account is bound to %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 of %2 lines were refused; --strict stops at the first.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -135,6 +131,10 @@
         <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -143,43 +143,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The line contains a NUL character.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a currency code such as CAD.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is not an OFX file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is several OFX files in one.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is cut short or damaged.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The statement has no %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -227,14 +195,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The line contains a carriage return; lines end with a line feed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -247,10 +207,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -260,6 +216,26 @@
     </message>
     <message>
         <source>The statements of the account &apos;%1&apos; differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line contains the character %1, which cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is cut short, damaged, or several files in one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -112,10 +112,6 @@
         <translation>%1: Auszug von %2 mit dem Datum %3 und dem Saldo %4 übernommen.</translation>
     </message>
     <message>
-        <source>No account is bound to %1.</source>
-        <translation>Kein Konto ist gebunden an: %1.</translation>
-    </message>
-    <message>
         <source>%1 of %2 lines were refused; --strict stops at the first.</source>
         <translation>%1 von %2 Zeilen wurden abgelehnt; --strict hält bei der ersten an.</translation>
     </message>
@@ -135,6 +131,10 @@
         <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
         <translation>help zeigt die Befehle an, quit beendet das Programm. Erhalten bleibt nur, was Sie von den Zeilen aufbewahren, die print anzeigt.</translation>
     </message>
+    <message>
+        <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
+        <translation>Kein Konto ist gebunden an: %1. Binden Sie eines: statement NUMMER DATEI KENNUNG</translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -143,44 +143,12 @@
         <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
     </message>
     <message>
-        <source>The line contains a NUL character.</source>
-        <translation>Die Zeile enthält ein NUL-Zeichen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
-        <translation>„%1“ ist keine Kontoart; die Kontoarten sind: %2.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation>„%1“ ist kein Datum der Form 2026-01-31.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a currency code such as CAD.</source>
-        <translation>„%1“ ist kein Währungscode wie CAD.</translation>
-    </message>
-    <message>
-        <source>The file is not an OFX file.</source>
-        <translation>Die Datei ist keine OFX-Datei.</translation>
-    </message>
-    <message>
-        <source>The file is several OFX files in one.</source>
-        <translation>Die Datei besteht aus mehreren OFX-Dateien.</translation>
-    </message>
-    <message>
-        <source>The file is cut short or damaged.</source>
-        <translation>Die Datei ist abgeschnitten oder beschädigt.</translation>
-    </message>
-    <message>
         <source>The statement has no %1.</source>
         <translation>Im Auszug fehlt das Feld %1.</translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation>Das Feld %1 des Auszugs ist unlesbar: „%2“.</translation>
-    </message>
-    <message>
-        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
-        <translation>Die Datei ist in UTF-16 oder UTF-32 kodiert, was nicht gelesen werden kann.</translation>
     </message>
     <message>
         <source>The file has no statement of a bank account or a credit card.</source>
@@ -227,14 +195,6 @@
         <translation>Konten mehrerer Banken sind an „%1“ gebunden. Übernehmen Sie ihre Auszüge einzeln: statement NUMMER DATEI</translation>
     </message>
     <message>
-        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
-        <translation>Kein Konto ist an eine Kennung in der Datei gebunden. Binden Sie eines: statement NUMMER DATEI KENNUNG, mit einer von: %1.</translation>
-    </message>
-    <message>
-        <source>The line contains a carriage return; lines end with a line feed.</source>
-        <translation>Die Zeile enthält einen Wagenrücklauf; Zeilen enden mit einem Zeilenvorschub.</translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
         <translation>Die Zeile ist kein UTF-8-Text; speichern Sie das Haushaltsbuch als UTF-8.</translation>
     </message>
@@ -247,10 +207,6 @@
         <translation>„%1“ ist keine Kontonummer wie 1010.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
-        <translation>„%1“ ist kein Betrag in %2 wie -1250.50 (Dezimaltrennzeichen: Punkt).</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
@@ -261,6 +217,26 @@
     <message>
         <source>The statements of the account &apos;%1&apos; differ.</source>
         <translation>Die Auszüge des Kontos „%1“ unterscheiden sich.</translation>
+    </message>
+    <message>
+        <source>The line contains the character %1, which cannot be shown.</source>
+        <translation>Die Zeile enthält das Zeichen %1, das nicht angezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
+        <translation>„%1“ ist keine Kontoart; die Kontoarten sind: Girokonto, Kreditkarte, Darlehen, Sparkonto, Sparziel.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
+        <translation>„%1“ ist kein Betrag wie -1250.50 CAD (Dezimaltrennzeichen: Punkt).</translation>
+    </message>
+    <message>
+        <source>The file is cut short, damaged, or several files in one.</source>
+        <translation>Die Datei ist abgeschnitten, beschädigt oder besteht aus mehreren Dateien.</translation>
+    </message>
+    <message>
+        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
+        <translation>Die Datei ist keine OFX-Datei oder in UTF-16 oder UTF-32 kodiert.</translation>
     </message>
 </context>
 </TS>

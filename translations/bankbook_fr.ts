@@ -112,10 +112,6 @@
         <translation>%1&#xa0;: relevé de %2 repris, daté %3, avec un solde de %4.</translation>
     </message>
     <message>
-        <source>No account is bound to %1.</source>
-        <translation>Aucun compte n’est lié à&#xa0;: %1.</translation>
-    </message>
-    <message>
         <source>%1 of %2 lines were refused; --strict stops at the first.</source>
         <translation>%1 lignes sur %2 ont été refusées; --strict s’arrête à la première.</translation>
     </message>
@@ -135,6 +131,10 @@
         <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
         <translation>Tapez help pour voir les commandes, quit pour quitter. Rien n’est gardé, sauf si vous gardez les lignes que print affiche.</translation>
     </message>
+    <message>
+        <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
+        <translation>Aucun compte n’est lié à&#xa0;: %1. Liez-en un&#xa0;: statement NUMÉRO FICHIER IDENTIFIANT</translation>
+    </message>
 </context>
 <context>
     <name>BookError</name>
@@ -143,44 +143,12 @@
         <translation>Le numéro de compte %1 est indiqué deux fois.</translation>
     </message>
     <message>
-        <source>The line contains a NUL character.</source>
-        <translation>La ligne contient un caractère NUL.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no kind of account; the kinds are: %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte; les types sont&#xa0;: %2.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une date de la forme 2026-01-31.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a currency code such as CAD.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un code de devise comme CAD.</translation>
-    </message>
-    <message>
-        <source>The file is not an OFX file.</source>
-        <translation>Le fichier n’est pas un fichier OFX.</translation>
-    </message>
-    <message>
-        <source>The file is several OFX files in one.</source>
-        <translation>Le fichier est formé de plusieurs fichiers OFX.</translation>
-    </message>
-    <message>
-        <source>The file is cut short or damaged.</source>
-        <translation>Le fichier est tronqué ou endommagé.</translation>
-    </message>
-    <message>
         <source>The statement has no %1.</source>
         <translation>Le champ %1 est absent du relevé.</translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation>Le champ %1 du relevé est illisible&#xa0;: «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
-        <source>The file is in UTF-16 or UTF-32, which cannot be read.</source>
-        <translation>Le fichier est en UTF-16 ou en UTF-32, un codage qui ne peut pas être lu.</translation>
     </message>
     <message>
         <source>The file has no statement of a bank account or a credit card.</source>
@@ -227,14 +195,6 @@
         <translation>Des comptes de plusieurs banques sont liés à «&#xa0;%1&#xa0;». Reprenez leurs relevés un à un&#xa0;: statement NUMÉRO FICHIER</translation>
     </message>
     <message>
-        <source>No account is bound to an identifier in the file. Bind one: statement NUMBER FILE IDENTIFIER, with one of %1.</source>
-        <translation>Aucun compte n’est lié à un identifiant du fichier. Liez-en un&#xa0;: statement NUMÉRO FICHIER IDENTIFIANT, avec l’un de&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>The line contains a carriage return; lines end with a line feed.</source>
-        <translation>La ligne contient un retour chariot; une ligne se termine par un saut de ligne.</translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
         <translation>La ligne n’est pas du texte UTF-8; enregistrez le livre de comptes en UTF-8.</translation>
     </message>
@@ -247,10 +207,6 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte comme 1010.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount of %2 such as -1250.50.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2 comme -1250.50 (séparateur décimal&#xa0;: point).</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
     </message>
@@ -261,6 +217,26 @@
     <message>
         <source>The statements of the account &apos;%1&apos; differ.</source>
         <translation>Les relevés du compte «&#xa0;%1&#xa0;» diffèrent.</translation>
+    </message>
+    <message>
+        <source>The line contains the character %1, which cannot be shown.</source>
+        <translation>La ligne contient le caractère %1, qui ne peut pas être affiché.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte; les types sont&#xa0;: Compte-chèques, &quot;Carte de crédit&quot;, Prêt, Épargne, Objectif.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme -1250.50 CAD (séparateur décimal&#xa0;: point).</translation>
+    </message>
+    <message>
+        <source>The file is cut short, damaged, or several files in one.</source>
+        <translation>Le fichier est tronqué, endommagé ou formé de plusieurs fichiers.</translation>
+    </message>
+    <message>
+        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
+        <translation>Le fichier n’est pas un fichier OFX, ou est en UTF-16 ou en UTF-32.</translation>
     </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <climits>
 #include <sstream>
 
 using namespace orv::banking;
@@ -25,12 +26,6 @@ QString written(Amount const& amount)
   return QString::fromStdString(text.str());
 }
 
-QString noHolderText(orv::accounting::AccountNumber const& number)
-{
-  return BookError::tr("No bank holds the account number %1; list shows all.")
-      .arg(presentationText(number));
-}
-
 // What there is to say of each command, which begins with a line on how it is written, and of the words
 // of commands at the end.
 QStringList helpTexts()
@@ -40,7 +35,7 @@ QStringList helpTexts()
   return QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"));
 }
 
-StatementFile readStatements(QString const& fileName)
+Statements readStatements(QString const& fileName)
 {
   QFile file(fileName);
   QFileInfo const info(file);
@@ -51,7 +46,7 @@ StatementFile readStatements(QString const& fileName)
   if (file.error() != QFile::NoError) {
     throw unreadable(file, fileName);
   }
-  return StatementFile(content);
+  return toStatements(content);
 }
 
 } // namespace
@@ -59,14 +54,14 @@ StatementFile readStatements(QString const& fileName)
 struct Book::Command
 {
   qsizetype fewest; // words after its name
-  qsizetype most;   // -1 for any number
+  qsizetype most;
   void (Book::*change)(QStringList const& words);
   QString (Book::*show)(QStringList const& words) = nullptr;
 };
 
 std::map<QString, Book::Command> const Book::commands_{
     {"add", {3, 3, &Book::add}},
-    {"bank", {1, -1, &Book::bank}},
+    {"bank", {1, INT_MAX, &Book::bank}},
     {"close", {1, 1, &Book::close}},
     {"find", {1, 1, nullptr, &Book::find}},
     {"help", {0, 1, nullptr, &Book::help}},
@@ -78,7 +73,7 @@ std::map<QString, Book::Command> const Book::commands_{
     {"remove", {1, 2, &Book::remove}},
     {"rename", {2, 2, &Book::rename}},
     {"statement", {1, 3, nullptr, &Book::statement}},
-    {"update", {1, -1, &Book::update}},
+    {"update", {1, INT_MAX, &Book::update}},
 };
 
 QString Book::usage()
@@ -92,17 +87,12 @@ QString Book::usage()
   return usage + u'\n' + onWords;
 }
 
-Book::Command const& Book::commandNamed(QString const& name)
-{
-  if (auto const found = commands_.find(name); found != commands_.end()) {
-    return found->second;
-  }
-  throw BookError(BookError::tr("There is no command '%1'; help shows the commands.").arg(name));
-}
-
 QString Book::helpOn(QString const& command)
 {
-  commandNamed(command);
+  if (!commands_.contains(command)) {
+    throw BookError(
+        BookError::tr("There is no command '%1'; help shows the commands.").arg(command));
+  }
   return helpTexts().filter(QRegularExpression(u'^' + command + QStringLiteral("\\s"))).value(0);
 }
 
@@ -118,14 +108,15 @@ QString Book::execute(QStringList const& words)
   if (words.isEmpty()) {
     return {};
   }
-  auto const& command = commandNamed(words[0]);
-  if (words.size() <= command.fewest || (command.most >= 0 && words.size() > command.most + 1)) {
+  auto const found = commands_.find(words[0]);
+  auto const given = words.size() - 1;
+  if (found == commands_.end() || given < found->second.fewest || given > found->second.most) {
     throw writtenOtherwise(words[0]);
   }
-  if (command.show != nullptr) {
-    return (this->*command.show)(words);
+  if (auto const show = found->second.show) {
+    return (this->*show)(words);
   }
-  (this->*command.change)(words);
+  (this->*found->second.change)(words);
   return {};
 }
 
@@ -148,17 +139,8 @@ Bank Book::toBank(QStringList const& words)
 void Book::add(QStringList const& words)
 {
   auto const number = toAccountNumber(words[2]);
-  auto const kind = toKind(words[3]);
-  auto const before = accountOf(number);
-  banks_.add(BankName(words[1]), number, kind);
-  if (before) {
-    drop({{number, before->accountNumberBankType.bankAccountType}}, {{number, kind}});
-  }
-}
-
-void Book::bank(QStringList const& words)
-{
-  banks_.add(toBank(words));
+  banks_.add(BankName(words[1]), number, toKind(words[3]));
+  identifiers_.remove(number);
 }
 
 void Book::identify(QStringList const& words)
@@ -167,28 +149,24 @@ void Book::identify(QStringList const& words)
   if (identifier.isEmpty()) {
     throw writtenOtherwise(words[0]);
   }
-  bind(accountOnRecord(words[1]), identifier);
+  bind(toAccountNumber(words[1]), identifier);
 }
 
 void Book::reconcile(QStringList const& words)
 {
-  auto const account = accountOnRecord(words[1]);
-  auto const date = toDate(words[2]);
-  record(account, {{}, toAmount(words[3], words[4]), date});
+  record(toAccountNumber(words[1]), {{}, toAmount(words[3], words[4]), toDate(words[2])});
 }
 
 void Book::remove(QStringList const& words)
 {
   BankName const name(words[1]);
+  auto const before = accountsOf(name);
   if (words.size() == 2) {
-    auto const before = accountsOf(name);
     banks_.remove(name);
-    drop(before, {});
   } else {
-    auto const number = toAccountNumber(words[2]);
-    banks_.remove(name, number);
-    drop({{number, {}}}, {});
+    banks_.remove(name, toAccountNumber(words[2]));
   }
+  drop(before, accountsOf(name));
 }
 
 void Book::update(QStringList const& words)
@@ -201,14 +179,7 @@ void Book::update(QStringList const& words)
 
 QString Book::find(QStringList const& words)
 {
-  auto const number = toAccountNumber(words[1]);
-  auto const account = accountOf(number);
-  return printable(account ? presentationText(*account, Yes) : noHolderText(number)) + u'\n';
-}
-
-QString Book::help(QStringList const& words)
-{
-  return words.size() == 1 ? usage() : helpOn(words[1]) + u'\n';
+  return presentationText(accountOf(toAccountNumber(words[1])), Yes) + u'\n';
 }
 
 QString Book::list(QStringList const& /*words*/)
@@ -235,64 +206,46 @@ QString Book::list(QStringList const& /*words*/)
 // Banks are closed after all else, so that the book takes every line.
 QString Book::print(QStringList const& /*words*/)
 {
-  QString text;
+  QString lines;
   QString closed;
   for (auto const& [name, bank] : banks_) {
-    auto const writtenName = writtenWord(name.institution());
-    text += QStringLiteral("bank ") + writtenName;
+    QStringList words{"bank", name.institution()};
     for (auto const& [number, kind] : bank.accounts()) {
-      text += u' ' + writtenWord(presentationText(number) + u'=' + toNonLocalisedText(kind));
+      words += presentationText(number) + u'=' + toNonLocalisedText(kind);
     }
-    text += u'\n';
-    if (bank.isClosed()) {
-      closed += QStringLiteral("close ") + writtenName + u'\n';
-    }
+    lines += toLine(words);
+    closed += bank.isClosed() ? toLine({"close", name.institution()}) : QString();
   }
   for (auto const& [number, identifier] : identifiers_.asKeyValueRange()) {
-    text += QStringLiteral("identifier ") + presentationText(number) + u' ' +
-            writtenWord(identifier) + u'\n';
+    lines += toLine({"identifier", presentationText(number), identifier});
   }
   for (auto const& [number, known] : balances_.asKeyValueRange()) {
-    text += QStringLiteral("reconcile ") + presentationText(number) +
-            known.date.toString(QStringLiteral(" yyyy-MM-dd ")) + writtenAmount(known.balance) +
-            u'\n';
+    lines += toLine({"reconcile", presentationText(number), known.date.toString(Qt::ISODate),
+                     known.balance.text, known.balance.currency.isoCode()});
   }
-  return text + closed;
+  return lines + closed;
 }
 
 QString Book::statement(QStringList const& words)
 {
   Book next(*this); // which takes all that there is to take, or is dropped
-  QString text;
-  if (words.size() == 2) {
-    text = next.takeBound(readStatements(folder_.filePath(words[1])));
-  } else {
-    auto const account = accountOnRecord(words[1]);
-    auto const bound = identifiers_.value(account.accountNumberBankType.accountNumber);
-    auto const file = readStatements(folder_.filePath(words[2]));
-    text = next.take(account, file, words.value(3, bound).simplified());
-  }
+  auto const isOfAll = words.size() == 2;
+  auto const file = readStatements(folder_.filePath(words[isOfAll ? 1 : 2]));
+  auto const text =
+      isOfAll ? next.takeBound(file) : next.take(toAccountNumber(words[1]), file, words.value(3));
   *this = next;
   return text;
 }
 
-std::optional<BankAccount> Book::accountOf(AccountNumber const& number) const
+BankAccount Book::accountOf(AccountNumber const& number) const
 {
   for (auto const& [name, bank] : banks_) {
     if (auto const found = bank.accounts().find(number); found != bank.accounts().end()) {
-      return BankAccount{name, {number, found->second}};
+      return {name, {number, found->second}};
     }
   }
-  return std::nullopt;
-}
-
-BankAccount Book::accountOnRecord(QString const& word) const
-{
-  auto const number = toAccountNumber(word);
-  if (auto const account = accountOf(number)) {
-    return *account;
-  }
-  throw BookError(noHolderText(number));
+  throw BookError(BookError::tr("No bank holds the account number %1; list shows all.")
+                      .arg(presentationText(number)));
 }
 
 Book::Accounts Book::accountsOf(BankName const& name) const
@@ -300,9 +253,9 @@ Book::Accounts Book::accountsOf(BankName const& name) const
   return banks_.hasBank(name) ? banks_.bank(name).accounts() : Accounts();
 }
 
-void Book::bind(BankAccount const& account, QString const& identifier)
+void Book::bind(AccountNumber const& ours, QString const& identifier)
 {
-  auto const& ours = account.accountNumberBankType.accountNumber;
+  auto const bank = accountOf(ours).bankName;
   auto const bound = identifiers_.value(ours, identifier);
   if (bound != identifier) {
     throw BookError(
@@ -311,7 +264,7 @@ void Book::bind(BankAccount const& account, QString const& identifier)
             .arg(presentationText(ours), bound, identifier));
   }
   for (auto const& number : identifiers_.keys(identifier)) {
-    if (!(number == ours) && accountOf(number)->bankName == account.bankName) {
+    if (!(number == ours) && accountOf(number).bankName == bank) {
       throw BookError(BookError::tr("'%1' is bound to another account of the bank, %2.")
                           .arg(identifier, presentationText(number)));
     }
@@ -332,10 +285,10 @@ void Book::drop(Accounts const& before, Accounts const& now)
   }
 }
 
-void Book::record(BankAccount const& account, Statement const& statement)
+void Book::record(AccountNumber const& number, Statement const& statement)
 {
+  auto const account = accountOf(number);
   auto const& [accountId, balance, date] = statement;
-  auto const& number = account.accountNumberBankType.accountNumber;
   auto const last = balances_.value(number, {{}, balance, {}}); // any date is later than none
   if (!(last.balance.currency == balance.currency)) {
     throw BookError(BookError::tr("The balance of the account number %1 is kept in %2, not in %3.")
@@ -344,7 +297,7 @@ void Book::record(BankAccount const& account, Statement const& statement)
   }
   ReconciledBankAccount(account, last.balance.money(), last.date).reconcile(date, balance.money());
   balances_.insert(number, statement);
-  if (date > today_) {
+  if (date > QDate::currentDate()) {
     auto const warning =
         tr("The date %1 of the account number %2 lies in the future: no earlier one "
            "will be taken, unless you remove the number and add it again.");
@@ -352,23 +305,24 @@ void Book::record(BankAccount const& account, Statement const& statement)
   }
 }
 
-QString Book::take(BankAccount const& account, StatementFile const& file, QString const& identifier)
+QString Book::take(AccountNumber const& number, Statements const& file, QString const& identifier)
 {
-  auto const statement = file.statementFor(account.accountNumberBankType, identifier);
-  bind(account, statement.accountId);
-  record(account, statement);
-  auto const took = tr("%1: took the statement of %2, dated %3, with a balance of %4.");
-  return printable(took.arg(presentationText(account.accountNumberBankType, Yes),
-                            statement.accountId, presentationText(statement.date),
-                            written(statement.balance))) +
+  auto const account = accountOf(number).accountNumberBankType;
+  auto const chosen = identifier.isEmpty() ? identifiers_.value(number) : identifier.simplified();
+  auto const statement = statementFor(account, file, chosen);
+  bind(number, statement.accountId);
+  record(number, statement);
+  return tr("%1: took the statement of %2, dated %3, with a balance of %4.")
+             .arg(presentationText(account, Yes), statement.accountId,
+                  presentationText(statement.date), written(statement.balance)) +
          u'\n';
 }
 
-QString Book::takeBound(StatementFile const& file)
+QString Book::takeBound(Statements const& file)
 {
   QString text;
   QStringList unbound;
-  for (auto const& identifier : file.accountIds()) {
+  for (auto const& identifier : file.keys()) {
     auto const numbers = identifiers_.keys(identifier);
     if (numbers.size() > 1) {
       throw BookError(BookError::tr("Accounts of several banks are bound to '%1'. Take their "
@@ -378,17 +332,13 @@ QString Book::takeBound(StatementFile const& file)
     if (numbers.isEmpty()) {
       unbound += identifier;
     } else {
-      text += take(*accountOf(numbers[0]), file, identifier);
+      text += take(numbers[0], file, identifier);
     }
   }
-  auto const others = firstTen(unbound);
+  auto const others = tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER")
+                          .arg(firstTen(unbound));
   if (text.isEmpty()) {
-    throw BookError(BookError::tr("No account is bound to an identifier in the file. Bind one: "
-                                  "statement NUMBER FILE IDENTIFIER, with one of %1.")
-                        .arg(others));
+    throw BookError(others);
   }
-  if (!unbound.isEmpty()) {
-    text += printable(tr("No account is bound to %1.").arg(others)) + u'\n';
-  }
-  return text;
+  return unbound.isEmpty() ? text : text + others + u'\n';
 }

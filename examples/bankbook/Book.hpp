@@ -11,7 +11,6 @@
 #include <QStringList>
 
 #include <map>
-#include <optional>
 
 /// A household's books: its banks, and what they reported last of each account.
 class Book
@@ -39,7 +38,6 @@ private:
 
   struct Command;
   static std::map<QString, Command> const commands_;
-  static Command const& commandNamed(QString const& name);
   static QString helpOn(QString const& command);
   static BookError writtenOtherwise(QString const& command);
 
@@ -48,7 +46,7 @@ private:
 
   // The commands that change the book. Each takes its words, of which the first is its own name.
   void add(QStringList const& words);
-  void bank(QStringList const& words);
+  void bank(QStringList const& words) { banks_.add(toBank(words)); }
   void close(QStringList const& words) { banks_.close(BankName(words[1])); }
   void identify(QStringList const& words);
   void open(QStringList const& words) { banks_.open(BankName(words[1])); }
@@ -59,38 +57,38 @@ private:
 
   // The commands that return what there is to show.
   QString find(QStringList const& words);
-  QString help(QStringList const& words);
+  QString help(QStringList const& words)
+  {
+    return words.size() == 1 ? usage() : helpOn(words[1]) + u'\n';
+  }
   QString list(QStringList const& words);
   QString print(QStringList const& words);
   QString statement(QStringList const& words);
 
-  std::optional<BankAccount> accountOf(AccountNumber const& number) const;
-
-  // The account with the number that the word is. Throws where no bank holds it.
-  BankAccount accountOnRecord(QString const& word) const;
+  // The account with the number. Throws where no bank holds it.
+  BankAccount accountOf(AccountNumber const& number) const;
 
   // The accounts of a bank; none where there is no such bank.
   Accounts accountsOf(BankName const& name) const;
 
   // Binds the account to the identifier. Throws where it is bound to another one, or another account of
   // its bank to this one.
-  void bind(BankAccount const& account, QString const& identifier);
+  void bind(AccountNumber const& ours, QString const& identifier);
 
   // Drops what is known of accounts that are no longer there, and the identifiers of those that have
   // changed their kind.
   void drop(Accounts const& before, Accounts const& now);
 
   // Reconciles the account with what its bank says of it.
-  void record(BankAccount const& account, Statement const& statement);
+  void record(AccountNumber const& number, Statement const& statement);
 
   // Does so with the statement of the identifier, binds the account to it, and returns what it says.
-  QString take(BankAccount const& account, StatementFile const& file, QString const& identifier);
+  QString take(AccountNumber const& number, Statements const& file, QString const& identifier);
 
   // Does so with the statements of all identifiers that an account is bound to.
-  QString takeBound(StatementFile const& file);
+  QString takeBound(Statements const& file);
 
   QDir folder_;
-  QDate today_ = QDate::currentDate();
   orv::banking::BankMap banks_;
   // Of the accounts that have any. The registry knows which bank holds each, and as what.
   QMap<AccountNumber, QString> identifiers_;

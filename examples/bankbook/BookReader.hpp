@@ -14,17 +14,18 @@ class QFile;
 
 // How a book is read. Each function throws BookError with the word in the text.
 
-/// Returns the text of a line, which may end with CR. Throws for bytes that are not UTF-8, for NUL, and
-/// for a CR elsewhere: it would hide the lines of a file that has no other line ends.
+/// Returns the text of a line, which may end with LF or CR LF, with blanks for tabs. Throws for bytes that
+/// are not UTF-8, and for what is not printable: a NUL, a CR that hides the line before it, or a code that
+/// a terminal would obey.
 QString toText(QByteArrayView line);
 
 /// Returns the words of a line: blanks separate them, double quotes hold words with blanks together, and
-/// # where a word could begin starts a comment. In quotes, \" and \\ stand for a quote and a backslash,
-/// and \u{1B} for the character with that code. Throws for a quote that does not end.
+/// # where a word could begin starts a comment. In quotes, \" and \\ stand for a quote and a backslash.
+/// Throws for a quote that does not end.
 QStringList toWords(QString const& line);
 
-/// Returns the printable form of a word that is read back as `word`, in quotes where it takes them.
-QString writtenWord(QString const& word);
+/// Returns the line, with its LF, that has these words, in quotes where they take them.
+QString toLine(QStringList const& words);
 
 /// Reads an account number in decimal digits. Zero, the invalid number, is read like any other.
 orv::accounting::AccountNumber toAccountNumber(QString const& word);
@@ -40,18 +41,14 @@ struct Amount
 {
   mintar::Currency currency;
   qint64 minorUnits = 0;
+  QString text; ///< the number as it was written
 
   [[nodiscard]] mintar::Money money() const { return {currency, minorUnits}; }
-
-  friend bool operator==(Amount const& lhs, Amount const& rhs) = default;
 };
 
 /// Reads an amount, for instance "-1250.5", exactly: decimals that the currency has not are zeros, and
 /// a 64-bit number holds the minor units. The currency is three capital letters.
 Amount toAmount(QString const& amount, QString const& currency);
-
-/// Returns the words of an amount, as `toAmount` reads them back: -1250.50 CAD.
-QString writtenAmount(Amount const& amount);
 
 /// Returns the error that the file cannot be opened or read, with the reason as the system says it.
 BookError unreadable(QFile const& file, QString const& name);

@@ -1,6 +1,7 @@
 #include "OfxReader.hpp"
 
 #include "BookError.hpp"
+#include "Terminal.hpp"
 
 #include <QRegularExpression>
 #include <QXmlStreamReader>
@@ -51,22 +52,18 @@ Tag nextTag(std::string_view content, std::size_t from)
 QString toValue(std::string_view bytes)
 {
   auto text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  text.replace("&nbsp;", " ").replace(QChar::Null, QChar::ReplacementCharacter);
+  text.replace("&nbsp;", " ");
   QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();
   auto const value = xml.readElementText();
   // In SGML, an ampersand may also stand for itself.
-  return (xml.hasError() ? text : value).simplified();
+  return printable((xml.hasError() ? text : value).simplified());
 }
 
 } // namespace
 
 QList<OfxValues> readOfx(QByteArray const& bytes)
 {
-  if (bytes.left(4).contains('\0') || bytes.startsWith("\xFF\xFE") ||
-      bytes.startsWith("\xFE\xFF")) {
-    throw BookError(BookError::tr("The file is in UTF-16 or UTF-32, which cannot be read."));
-  }
   // The elements that hold others, whose tags tell whether the file is whole. All others are values: in
   // SGML they may do without end tags, and some banks mistype them.
   static QRegularExpression const holder(QStringLiteral(
@@ -84,11 +81,7 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
   for (auto tag = nextTag(content, 0), next = tag; !tag.name.isEmpty() && !isDamaged; tag = next) {
     next = nextTag(content, tag.end);
     auto const step = tag.name + u'/';
-    auto const isOfxStart = step == u"OFX/" && !tag.isEnd;
     auto const isStatement = step == u"STMTRS/" || step == u"CCSTMTRS/";
-    if (isOfxStart && std::exchange(isOfx, true)) {
-      throw BookError(BookError::tr("The file is several OFX files in one."));
-    }
     if (auto const value = wanted.match(path + tag.name).captured(1); !value.isEmpty()) {
       // What is said twice is damaged, and so is an end tag that is not next.
       isDamaged = tag.isEnd || statements.last().contains(value);
@@ -99,7 +92,8 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
       path.chop(step.size());
     } else if (holder.match(tag.name).hasMatch()) {
       // No whole file is deeper: in one that is, each step would take longer than the last.
-      isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/"));
+      isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/")) ||
+                  (step == u"OFX/" && std::exchange(isOfx, true));
       path += step;
     }
     if (isStatement && !tag.isEnd && path.startsWith(u"/OFX/")) {
@@ -107,10 +101,10 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
     }
   }
   if (isDamaged || path != u"/") {
-    throw BookError(BookError::tr("The file is cut short or damaged."));
+    throw BookError(BookError::tr("The file is cut short, damaged, or several files in one."));
   }
   if (!isOfx) {
-    throw BookError(BookError::tr("The file is not an OFX file."));
+    throw BookError(BookError::tr("The file is not an OFX file, or is one in UTF-16 or UTF-32."));
   }
   return statements;
 }

@@ -15,10 +15,7 @@ QList<orv::banking::BankAccountTypes> toKinds(QString const& type)
       {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
       {"CREDITCARD", {CreditCard}},
   };
-  if (auto const found = kinds.find(type.toUpper()); found != kinds.end()) {
-    return *found;
-  }
-  throw BookError(type);
+  return kinds.value(type.toUpper());
 }
 
 // An amount of OFX as a book has it: without a plus, with a point for a comma, and a digit before it.
@@ -37,30 +34,13 @@ QDate readDate(QString const& date)
   return toDate(QString(date).replace(day, QStringLiteral("\\1-\\2-\\3")));
 }
 
-// What `read` makes of a value. Throws with the element and the value where it is missing or unreadable.
-template <typename Read>
-auto readValue(OfxValues const& values, QString const& element, Read&& read)
+QString valueOf(OfxValues const& values, QString const& element)
 {
   auto const value = values.value(element);
   if (value.isEmpty()) {
     throw BookError(BookError::tr("The statement has no %1.").arg(element));
   }
-  try {
-    return read(value);
-  } catch (BookError const&) {
-    throw BookError(BookError::tr("The statement's %1 '%2' cannot be read.").arg(element, value));
-  }
-}
-
-Statement toStatement(OfxValues const& values)
-{
-  auto const zero =
-      readValue(values, "CURDEF", [](QString const& value) { return toAmount("0", value); });
-  auto const readAmount = [&](QString const& value) {
-    return toAmount(bookAmount(value), zero.currency.isoCode());
-  };
-  return {values.value("ACCTID"), readValue(values, "LEDGERBAL/BALAMT", readAmount),
-          readValue(values, "LEDGERBAL/DTASOF", &readDate)};
+  return value;
 }
 
 } // namespace
@@ -71,51 +51,52 @@ QString firstTen(QStringList const& accountIds)
   return accountIds.size() > 10 ? first + QStringLiteral(", …") : first;
 }
 
-StatementFile::StatementFile(QByteArray const& content)
+Statements toStatements(QByteArray const& content)
 {
+  Statements statements;
   for (auto const& values : readOfx(content)) {
-    auto const id = readValue(values, "ACCTID", [](QString const& value) { return value; });
-    auto& statements = statements_[id];
-    accountIds_ += statements.isEmpty() ? QStringList(id) : QStringList();
-    statements += values;
+    statements[valueOf(values, "ACCTID")] += values;
   }
-  if (accountIds_.isEmpty()) {
+  if (statements.isEmpty()) {
     throw BookError(BookError::tr("The file has no statement of a bank account or a credit card."));
   }
+  return statements;
 }
 
-Statement StatementFile::statementFor(orv::banking::AccountNumberBankType const& account,
-                                      QString const& accountId) const
+Statement statementFor(orv::banking::AccountNumberBankType const& account,
+                       Statements const& statements, QString const& accountId)
 {
-  QList<OfxValues> found; // for the kind of account
-  QStringList ids;        // of these
-  QString otherType;      // of a statement for another kind
-  for (auto const& id : accountId.isEmpty() ? accountIds_ : QStringList(accountId)) {
-    for (auto const& values : statements_.value(id)) {
-      if (readValue(values, "ACCTTYPE", &toKinds).contains(account.bankAccountType)) {
-        found += values;
-        ids += id;
+  Statements found;  // for the kind of account
+  QString otherType; // of a statement for another kind
+  for (auto const& id : accountId.isEmpty() ? statements.keys() : QStringList(accountId)) {
+    for (auto const& values : statements.value(id)) {
+      if (toKinds(valueOf(values, "ACCTTYPE")).contains(account.bankAccountType)) {
+        found[id] += values;
       } else {
         otherType = values.value("ACCTTYPE");
       }
     }
   }
-  if (ids.removeDuplicates(); ids.size() > 1) {
+  if (found.size() > 1) {
     throw BookError(
         BookError::tr("The file has several such accounts; add the identifier at the end: %1.")
-            .arg(firstTen(ids)));
+            .arg(firstTen(found.keys())));
   }
   if (found.isEmpty() && otherType.isEmpty()) {
     throw BookError(BookError::tr("The file has no statement of the account '%1', but of: %2.")
-                        .arg(accountId, firstTen(accountIds_)));
+                        .arg(accountId, firstTen(statements.keys())));
   }
   if (found.isEmpty()) {
     throw BookError(
         BookError::tr("The account %1 is not of the kind that the statement is for, '%2'.")
             .arg(presentationText(account, orv::foundation::LocaleAware::Yes), otherType));
   }
-  if (found.count(found.first()) < found.size()) {
-    throw BookError(BookError::tr("The statements of the account '%1' differ.").arg(ids.first()));
+  auto const& values = found.first().first();
+  if (found.first().count(values) < found.first().size()) {
+    throw BookError(
+        BookError::tr("The statements of the account '%1' differ.").arg(found.firstKey()));
   }
-  return toStatement(found.first());
+  auto const amount = bookAmount(valueOf(values, "LEDGERBAL/BALAMT"));
+  auto const date = valueOf(values, "LEDGERBAL/DTASOF");
+  return {found.firstKey(), toAmount(amount, valueOf(values, "CURDEF")), readDate(date)};
 }

@@ -1,23 +1,19 @@
 #include "Terminal.hpp"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <utf8proc.h>
 
-namespace {
-
 bool isPrintable(char32_t c)
 {
   auto const category = QChar::category(c);
-  if (category == QChar::Other_Format) {
-    // Scripts and emoji join with the first two; right-to-left locales write the others into amounts.
-    auto const isMark = c == 0x061C || c == 0x200E || c == 0x200F;
-    return c == 0x200C || c == 0x200D || (isMark && QLocale().textDirection() == Qt::RightToLeft);
-  }
-  return category != QChar::Other_Control && category != QChar::Separator_Line &&
-         category != QChar::Separator_Paragraph;
+  // Scripts and emoji need joiners, and text from right to left its marks.
+  auto const isNeeded = c == 0x061C || (c >= 0x200C && c <= 0x200F);
+  return isNeeded || (category != QChar::Other_Format && category != QChar::Other_Control &&
+                      category != QChar::Separator_Line && category != QChar::Separator_Paragraph);
 }
+
+namespace {
 
 // In columns of a terminal.
 qsizetype widthOf(QString const& text)
@@ -48,17 +44,15 @@ QString toTable(QList<QStringList> rows, QByteArrayView alignments)
   for (qsizetype column = 0; column < alignments.size(); ++column) {
     qsizetype width = 0;
     for (auto const& row : rows) {
-      width = qMax(width, widthOf(printable(row.value(column))));
+      width = qMax(width, widthOf(row.value(column)));
     }
     rows[1][column] = QString(width, u'-');
     for (qsizetype i = 0; i < rows.size(); ++i) {
-      auto const cell = printable(rows[i].value(column));
+      auto const cell = rows[i].value(column);
       QString const padding(width - widthOf(cell), u' ');
-      lines[i] += alignments[column] == 'r' ? padding + cell : cell + padding;
-      lines[i] += QStringLiteral("  ");
+      lines[i] += (alignments[column] == 'r' ? padding + cell : cell + padding) + "  ";
     }
   }
-  static QRegularExpression const blanks(QStringLiteral(" +$"),
-                                         QRegularExpression::MultilineOption);
-  return lines.join(u'\n').append(u'\n').remove(blanks);
+  static QRegularExpression const blanks(QStringLiteral(" +$"));
+  return lines.replaceInStrings(blanks, {}).join(u'\n') + u'\n';
 }

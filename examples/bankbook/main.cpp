@@ -5,7 +5,6 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
@@ -14,14 +13,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <exception>
 #include <new>
-
-#if __has_include(<unistd.h>)
 #include <unistd.h>
-#else
-#include <io.h>
-#endif
 
 namespace {
 
@@ -37,74 +30,48 @@ int tell(QString const& text)
   return notRun;
 }
 
-// Writes the text to standard output. Returns whether it has been taken, and tells where it has not.
-bool show(QString const& text)
+// Writes the text to standard output. Returns the status for an end after it.
+int show(QString const& text)
 {
   static QTextStream out(stdout);
   out << text << Qt::flush;
-  if (out.status() != QTextStream::Ok) {
-    tell(Book::tr("Standard output cannot be written."));
-  }
-  return out.status() == QTextStream::Ok;
-}
-
-// All texts depend on the locale, those of the other options too: so it is set before them, by a parser
-// that knows no other option and does not mind. Returns whether Qt knows the locale.
-bool setLocale(QCommandLineOption const& option)
-{
-  QCommandLineParser parser;
-  parser.addOption(option);
-  parser.parse(QCoreApplication::arguments());
-  if (!parser.isSet(option)) {
-    return true;
-  }
-  // As LANG has it, with a character set or a variant, for instance C.UTF-8 or de_DE@euro.
-  auto const name = parser.value(option).section(u'.', 0, 0).section(u'@', 0, 0);
-  QLocale::setDefault(QLocale(name)); // C for one that is not known
-  return QLocale().language() != QLocale::C || name == u"C" || name == u"POSIX";
+  return out.status() == QTextStream::Ok ? allDone
+                                         : tell(Book::tr("Standard output cannot be written."));
 }
 
 // Bankbook's own translation decides on the language of all texts: nobody is to read two at a time. Only
 // why a file cannot be read may be in the system's.
 void installTranslators()
 {
-  auto const near = [](QString const& data) {
-    return QCoreApplication::applicationDirPath() + u'/' + data +
-           QStringLiteral("/%1/translations");
-  };
-  auto const installed = near(QStringLiteral(BANKBOOK_DATA));
-  auto const share = QFileInfo::exists(installed.arg("bankbook")) ? installed : near("../share");
+  QDir share(QCoreApplication::applicationDirPath());
+  if (!share.cd(BANKBOOK_DATA "/bankbook/translations")) { // which is not installed, but just built
+    share.cd("../share/bankbook/translations");
+  }
   auto* const own = new QTranslator(QCoreApplication::instance());
-  if (!own->load(QLocale(), "bankbook", "_", share.arg("bankbook")) || own->language().isEmpty()) {
+  if (!own->load(QLocale(), "bankbook", "_", share.path()) || own->language().isEmpty()) {
     return;
   }
   QCoreApplication::installTranslator(own);
-  auto const installOther = [&](QString const& name, QString const& folder) {
+  for (auto const& name : {share.filePath("../../orv-banking/translations/orv-banking_"),
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_"}) {
     auto* const other = new QTranslator(QCoreApplication::instance());
-    if (other->load(name + own->language(), folder)) {
+    if (other->load(name + own->language())) {
       QCoreApplication::installTranslator(other);
     }
-  };
-  installOther("orv-banking_", share.arg("orv-banking"));
-  installOther("qtbase_", QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  }
 }
 
-// Reads a line without its line feed. Returns whether there was one. Throws for a line that is too long,
-// when all of it has been read.
-bool readLine(QFile& file, QByteArray& line)
+// Reads a line with its end; it is empty at the end of the file. Throws for a line that is too long, when
+// all of it has been read.
+QByteArray readLine(QFile& file)
 {
   constexpr qsizetype longest = 1024 * 1024;
-  line.resize(longest + 3); // for a line feed, a character too many, and the NUL that Qt appends
-  auto size = file.readLine(line.data(), line.size());
-  line.truncate(qMax(size, 0));
-  auto isWhole = line.endsWith('\n');
-  line.chop(isWhole ? 1 : 0);
-  if (line.size() <= longest) {
-    return size > 0;
+  auto line = file.readLine(longest + 2); // of which Qt keeps one for a NUL
+  if (line.size() <= longest || line.endsWith('\n')) {
+    return line;
   }
-  while (!isWhole && size > 0) {
-    size = file.readLine(line.data(), line.size());
-    isWhole = size > 0 && line.at(size - 1) == '\n';
+  while (!line.isEmpty() && !line.endsWith('\n')) {
+    line = file.readLine(longest);
   }
   throw BookError(Book::tr("The line is longer than 1 MiB."));
 }
@@ -125,23 +92,19 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
       u'\n');
   int done = 0; // of the lines that hold a command
   int refused = 0;
-  QByteArray line;
   for (int number = 1;; ++number) {
     guide(QStringLiteral("bankbook> "));
     try {
-      if (!readLine(file, line)) {
-        guide(QStringLiteral("\n"));
-        break;
-      }
+      auto const line = readLine(file);
       auto const words = toWords(toText(line));
-      if (isAtPrompt && words == QStringList{"quit"}) {
+      if (line.isEmpty() || (isAtPrompt && words == QStringList{"quit"})) {
         break;
       }
       auto const shown = book.execute(words);
       done += words.isEmpty() ? 0 : 1;
       if (isAtPrompt && words.value(0) == u"help") {
         guide(shown);
-      } else if (!shown.isEmpty() && !show(shown)) {
+      } else if (!shown.isEmpty() && show(shown) != allDone) {
         return notRun;
       }
     } catch (std::bad_alloc const&) {
@@ -155,6 +118,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
       ++refused;
     }
   }
+  guide(QStringLiteral("\n"));
   if (file.error() != QFile::NoError) {
     return tell(unreadable(file, name).what());
   }
@@ -179,7 +143,17 @@ int main(int argc, char* argv[])
                             QString const& text) { tell(qFormatLogMessage(type, context, text)); });
 
   QCommandLineOption localeOption("locale", {}, "LOCALE");
-  auto const isLocaleKnown = setLocale(localeOption);
+  QCommandLineParser early; // All texts depend on the locale, those of the other options too.
+  early.addOption(localeOption);
+  early.parse(QCoreApplication::arguments());
+  if (early.isSet(localeOption)) {
+    // As LANG has it, with a character set or a variant, for instance C.UTF-8 or de_DE@euro.
+    auto const name = early.value(localeOption).section(u'.', 0, 0).section(u'@', 0, 0);
+    QLocale::setDefault(QLocale(name)); // C for one that is not known
+    if (QLocale().language() == QLocale::C && name != u"C" && name != u"POSIX") {
+      return tell(Book::tr("There is no locale '%1'.").arg(name));
+    }
+  }
   installTranslators();
 
   localeOption.setDescription(Book::tr("Show texts, amounts and dates as in this locale."));
@@ -201,13 +175,8 @@ int main(int argc, char* argv[])
   if (!parser.parse(QCoreApplication::arguments())) {
     return tell(parser.errorText());
   }
-  if (!isLocaleKnown) {
-    return tell(Book::tr("There is no locale '%1'.").arg(parser.value(localeOption)));
-  }
   if (parser.isSet("help") || parser.isSet("version")) {
-    auto const isTaken =
-        show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
-    return isTaken ? allDone : notRun;
+    return show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
   }
   auto const files = parser.positionalArguments();
   if (files.size() > 1) {
