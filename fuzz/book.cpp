@@ -9,13 +9,13 @@
 // is printed in the end makes the same book again.
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
-  auto const shown = [](Book& book) { return book.execute({"list"}) + book.execute({"print"}); };
+  auto const shown = [](Book& book) { return execute(book, {"list"}) + execute(book, {"print"}); };
   Book book;
   auto before = shown(book);
   QByteArray const text(reinterpret_cast<char const*>(data), static_cast<qsizetype>(size));
   for (auto const& line : text.split('\n')) {
     try {
-      book.execute(toWords(toText(line)));
+      execute(book, toWords(toText(line)));
       before = shown(book);
       continue;
     } catch (BookError const&) { // anything else ends the program
@@ -26,8 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
     }
   }
   Book again;
-  for (auto const& line : book.execute({"print"}).toUtf8().split('\n')) {
-    again.execute(toWords(toText(line)));
+  for (auto const& line : execute(book, {"print"}).toUtf8().split('\n')) {
+    execute(again, toWords(toText(line)));
   }
   if (shown(again) != before) {
     std::abort();

@@ -13,7 +13,7 @@ namespace {
 
 std::string run(Book& book, QByteArray const& line)
 {
-  return book.execute(toWords(toText(line))).toStdString();
+  return execute(book, toWords(toText(line))).toStdString();
 }
 
 // What is listed once the lines are carried out.

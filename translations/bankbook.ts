@@ -135,13 +135,45 @@
         <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>BookError</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation type="unfinished"></translation>
+    </message>
     <message>
         <source>The account number %1 is given twice.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BookError</name>
     <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation type="unfinished"></translation>
@@ -160,38 +192,6 @@
     </message>
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>No bank holds the account number %1; list shows all.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 is not a file.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

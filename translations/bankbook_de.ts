@@ -135,13 +135,45 @@
         <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
         <translation>Kein Konto ist gebunden an: %1. Binden Sie eines: statement NUMMER DATEI KENNUNG</translation>
     </message>
-</context>
-<context>
-    <name>BookError</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
+    </message>
     <message>
         <source>The account number %1 is given twice.</source>
         <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
     </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation>Keine Bank führt ein Konto mit der Nummer %1; list zeigt alle an.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation>Die Kontonummer %1 ist an „%2“ gebunden, nicht an „%3“; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation>„%1“ ist an ein anderes Konto der Bank gebunden, %2.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation>Der Saldo des Kontos mit der Nummer %1 wird in %2 geführt, nicht in %3.</translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation>Konten mehrerer Banken sind an „%1“ gebunden. Übernehmen Sie ihre Auszüge einzeln: statement NUMMER DATEI</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation>Den Befehl „%1“ gibt es nicht; help zeigt die Befehle an.</translation>
+    </message>
+</context>
+<context>
+    <name>BookError</name>
     <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation>„%1“ ist kein Datum der Form 2026-01-31.</translation>
@@ -161,38 +193,6 @@
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Das Konto %1 hat nicht die Art, für die der Auszug gilt: „%2“.</translation>
-    </message>
-    <message>
-        <source>No bank holds the account number %1; list shows all.</source>
-        <translation>Keine Bank führt ein Konto mit der Nummer %1; list zeigt alle an.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file.</source>
-        <translation>%1 ist keine Datei.</translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
-        <translation>Den Befehl „%1“ gibt es nicht; help zeigt die Befehle an.</translation>
-    </message>
-    <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
-        <translation>Die Kontonummer %1 ist an „%2“ gebunden, nicht an „%3“; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
-        <translation>„%1“ ist an ein anderes Konto der Bank gebunden, %2.</translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
-        <translation>Der Saldo des Kontos mit der Nummer %1 wird in %2 geführt, nicht in %3.</translation>
-    </message>
-    <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
-        <translation>Konten mehrerer Banken sind an „%1“ gebunden. Übernehmen Sie ihre Auszüge einzeln: statement NUMMER DATEI</translation>
     </message>
     <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>

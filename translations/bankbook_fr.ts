@@ -135,13 +135,45 @@
         <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
         <translation>Aucun compte n’est lié à&#xa0;: %1. Liez-en un&#xa0;: statement NUMÉRO FICHIER IDENTIFIANT</translation>
     </message>
-</context>
-<context>
-    <name>BookError</name>
+    <message>
+        <source>%1 is not a file.</source>
+        <translation>%1 n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>The command is written: %1. Double quotes hold words with blanks.</source>
+        <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
+    </message>
     <message>
         <source>The account number %1 is given twice.</source>
         <translation>Le numéro de compte %1 est indiqué deux fois.</translation>
     </message>
+    <message>
+        <source>No bank holds the account number %1; list shows all.</source>
+        <translation>Le numéro de compte %1 n’est associé à aucune banque; list les affiche tous.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <translation>Le numéro de compte %1 est lié à «&#xa0;%2&#xa0;», pas à «&#xa0;%3&#xa0;»; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <translation>«&#xa0;%1&#xa0;» est lié à un autre compte de la banque, %2.</translation>
+    </message>
+    <message>
+        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <translation>Le solde du compte numéro %1 est tenu en %2, pas en %3.</translation>
+    </message>
+    <message>
+        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <translation>Des comptes de plusieurs banques sont liés à «&#xa0;%1&#xa0;». Reprenez leurs relevés un à un&#xa0;: statement NUMÉRO FICHIER</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; help affiche les commandes.</translation>
+    </message>
+</context>
+<context>
+    <name>BookError</name>
     <message>
         <source>&apos;%1&apos; is not a date such as 2026-01-31.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une date de la forme 2026-01-31.</translation>
@@ -161,38 +193,6 @@
     <message>
         <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
         <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
-        <source>No bank holds the account number %1; list shows all.</source>
-        <translation>Le numéro de compte %1 n’est associé à aucune banque; list les affiche tous.</translation>
-    </message>
-    <message>
-        <source>%1 is not a file.</source>
-        <translation>%1 n’est pas un fichier.</translation>
-    </message>
-    <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
-        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; help affiche les commandes.</translation>
-    </message>
-    <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
-        <translation>Le numéro de compte %1 est lié à «&#xa0;%2&#xa0;», pas à «&#xa0;%3&#xa0;»; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
-        <translation>«&#xa0;%1&#xa0;» est lié à un autre compte de la banque, %2.</translation>
-    </message>
-    <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
-        <translation>Le solde du compte numéro %1 est tenu en %2, pas en %3.</translation>
-    </message>
-    <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
-        <translation>Des comptes de plusieurs banques sont liés à «&#xa0;%1&#xa0;». Reprenez leurs relevés un à un&#xa0;: statement NUMÉRO FICHIER</translation>
     </message>
     <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>

@@ -39,8 +39,7 @@ Tag nextTag(std::string_view content, std::size_t from)
       continue;
     }
     auto const tag = rest.substr(0, rest.find_first_of("<>", 1) + 1);
-    auto const match =
-        form.match(QString::fromLatin1(tag.data(), static_cast<qsizetype>(tag.size())));
+    auto const match = form.match(QString::fromLatin1(QByteArrayView(tag)));
     if (match.hasMatch()) {
       return {match.captured(2).toUpper(), match.capturedLength(1) > 0, at, at + tag.size()};
     }
@@ -51,7 +50,7 @@ Tag nextTag(std::string_view content, std::size_t from)
 
 QString toValue(std::string_view bytes)
 {
-  auto text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  auto text = QString::fromUtf8(QByteArrayView(bytes));
   text.replace("&nbsp;", " ");
   QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();

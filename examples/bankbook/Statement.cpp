@@ -9,7 +9,7 @@ namespace {
 // The kinds of account that a type of OFX stands for. A goal is money set aside.
 QList<orv::banking::BankAccountTypes> toKinds(QString const& type)
 {
-  static QHash<QString, QList<orv::banking::BankAccountTypes>> const kinds{
+  static QMap<QString, QList<orv::banking::BankAccountTypes>> const kinds{
       {"CHECKING", {Chequeing}},      {"SAVINGS", {Savings, Goal}},
       {"MONEYMRKT", {Savings, Goal}}, {"CD", {Savings, Goal}},
       {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},

@@ -80,7 +80,7 @@ QByteArray readLine(QFile& file)
 // a person is kept apart from the results, which may go elsewhere.
 int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
 {
-  Book book(QFileInfo(name).absoluteDir()); // the current one for standard input
+  Book book{QFileInfo(name).absoluteDir()}; // the current one for standard input
   auto const guide = [&](QString const& text) {
     if (isAtPrompt) {
       QTextStream(stderr) << text;
@@ -100,7 +100,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
       if (line.isEmpty() || (isAtPrompt && words == QStringList{"quit"})) {
         break;
       }
-      auto const shown = book.execute(words);
+      auto const shown = execute(book, words);
       done += words.isEmpty() ? 0 : 1;
       if (isAtPrompt && words.value(0) == u"help") {
         guide(shown);
@@ -110,8 +110,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
     } catch (std::bad_alloc const&) {
       throw;
     } catch (std::exception const& refusal) {
-      auto const text = QString::fromUtf8(refusal.what());
-      tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), text));
+      tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), refusal.what()));
       if (isStrict) {
         return linesRefused;
       }
@@ -159,7 +158,7 @@ int main(int argc, char* argv[])
   localeOption.setDescription(Book::tr("Show texts, amounts and dates as in this locale."));
   QCommandLineParser parser;
   parser.setApplicationDescription(Book::tr("Keeps a household's books, one command a line:") +
-                                   "\n\n" + Book::usage());
+                                   "\n\n" + usage());
   parser.addOptions({
       localeOption,
       {"quiet", Book::tr("Do not report the changes of banks.")},
