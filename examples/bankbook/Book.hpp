@@ -14,10 +14,10 @@
 struct Book
 {
   QDir folder = QDir::current(); ///< to which the names of files in the lines are relative
-  orv::banking::BankMap banks;
+  orv::banking::BankMap banks{};
   // Of the accounts that have any. The registry knows which bank holds each, and as what.
-  QMap<orv::accounting::AccountNumber, QString> identifiers;
-  QMap<orv::accounting::AccountNumber, Statement> balances;
+  QMap<orv::accounting::AccountNumber, QString> identifiers{};
+  QMap<orv::accounting::AccountNumber, Statement> balances{};
 
   Q_DECLARE_TR_FUNCTIONS(Book)
 };
