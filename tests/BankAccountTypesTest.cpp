@@ -8,12 +8,7 @@ using orv::foundation::LocaleAware;
 namespace {
 
 // In the order in which texts are recognised.
-struct
-{
-  int value;
-  QString text;
-  AccountTypes accountType;
-} const kinds[] = {
+std::tuple<int, QString, AccountTypes> const kinds[] = {
     {1, "Chequeing", AccountTypes::Asset},       {5, "Goal", AccountTypes::Asset},
     {2, "Credit Card", AccountTypes::Liability}, {3, "Loan", AccountTypes::Liability},
     {4, "Savings", AccountTypes::Asset},         {0, "Unknown", AccountTypes{}}};
@@ -56,9 +51,9 @@ TEST(BankAccountTypes, AreRecognisedInPlainTextFirstAndInOneOrder)
   QStringList unlike; // the kinds whose texts are not the same as all later ones
   ScopedTranslator const toSame(
       [&](auto const& text) { return unlike.contains(text) ? "" : "same"; });
-  for (auto const& kind : kinds) {
-    EXPECT_EQ(toNonLocalisedText(toBankAccountTypes("same")), kind.text);
-    unlike += kind.text;
+  for (auto const& [value, text, accountType] : kinds) {
+    EXPECT_EQ(toNonLocalisedText(toBankAccountTypes("same")), text);
+    unlike += text;
   }
 }
 
@@ -71,9 +66,9 @@ TEST(BankAccountTypes, AreReadBackInEachLanguage)
     QTranslator translator;
     EXPECT_TRUE(translator.load(file.filePath()));
     QCoreApplication::installTranslator(&translator);
-    for (auto const& kind : kinds) {
-      auto const type = toBankAccountTypes(kind.text);
-      EXPECT_EQ(toBankAccountTypes(presentationText(type)), type);
+    for (auto const& [value, text, accountType] : kinds) {
+      EXPECT_EQ(toNonLocalisedText(toBankAccountTypes(presentationText(BankAccountTypes{value}))),
+                text);
     }
   }
 }

@@ -32,6 +32,7 @@ TEST(Bank, RefusesToBreakItsRules)
 // quotes them. A value that is no kind ends a message early.
 TEST(Bank, LogsWhatItIsAsked)
 {
+  ScopedTranslator const translator;
   Bank bank(BankName("Elm"), {}, true);
   takeMessages();
   bank.open();
@@ -40,23 +41,15 @@ TEST(Bank, LogsWhatItIsAsked)
   EXPECT_THROW(Bank(elm, {{hundred, noKind}}, false).remove(hundred), std::logic_error);
   bank.remove(hundred);
   bank.close();
-  auto const messages = takeMessages();
+  auto messages = takeMessages();
   QString const name("\"Financial Institution Name: (Elm)\"");
   EXPECT_EQ(
       messages,
-      QStringList({"Opening " + name, "Adding account number 100 which is \"Loan\" to " + name,
+      QStringList({"Opening " + name, "Adding account number 100 which is \"~Loan\" to " + name,
                    "Adding account number 100 which is", "Removing account number 100 from",
                    "Removing account number 100 from \"Bank: (Financial Institution Name: "
-                   "(Elm)), Account Numbers: (100=>Loan), Is Closed: false)\"",
+                   "(Elm)), Account Numbers: (100=>~Loan), Is Closed: false)\"",
                    "Closing " + name}));
-  ScopedTranslator const translator;
-  bank.add(hundred, Loan); // closed, it takes accounts too
-  bank.remove(hundred);
-  bank.open();
-  bank.close();
-  QStringList translated{messages[1], messages[4], messages[0], messages[5]};
-  translated.replaceInStrings("Loan", "~Loan").replaceInStrings("false", "true");
-  EXPECT_EQ(takeMessages(), translated);
 
   QFile page(ORV_BANKING_LOG_PAGE);
   EXPECT_TRUE(page.open(QIODevice::ReadOnly));
@@ -65,7 +58,7 @@ TEST(Bank, LogsWhatItIsAsked)
   for (auto matches = quoted.globalMatch(page.readAll()); matches.hasNext();) {
     quotes += matches.next().captured(1).simplified();
   }
-  EXPECT_THAT(quotes, testing::UnorderedElementsAreArray(messages));
+  EXPECT_THAT(quotes, testing::UnorderedElementsAreArray(messages.replaceInStrings("~", "")));
 }
 
 TEST(Bank, WritesItsAccountsInAnyFormatAndStaysInBoolalpha)

@@ -1,47 +1,19 @@
 #include "Book.hpp"
 
 #include "BookReader.hpp"
-#include "Terminal.hpp"
-#include "support/Log.hpp"
 #include "support/Testing.hpp"
-
-#include <QTemporaryDir>
 
 using namespace testing;
 
 namespace {
 
-std::string run(Book& book, QByteArray const& line)
+QString answer(Book& book, QString const& line)
 {
-  return book.execute(toWords(toText(line))).toStdString();
-}
-
-// What is listed once the lines are carried out.
-std::string listed(Book& book, std::initializer_list<char const*> lines)
-{
-  for (auto const* const line : lines) {
-    run(book, line);
+  try {
+    return book.execute(toWords(line));
+  } catch (std::exception const& refusal) {
+    return refusal.what() + QString("\n");
   }
-  return run(book, "list");
-}
-
-void refuses(Book& book, QByteArray const& line, std::string const& start)
-{
-  EXPECT_THAT([&] { run(book, line); }, ThrowsMessage<std::exception>(StartsWith(start)))
-      << line.toStdString();
-}
-
-void write(QString const& name, QByteArray const& content)
-{
-  QFile file(name);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
-
-QByteArray statementOf(QByteArray const& id, QByteArray const& amount)
-{
-  return "<STMTRS><CURDEF>CAD<BANKACCTFROM><ACCTID>" + id +
-         "<ACCTTYPE>SAVINGS</BANKACCTFROM><LEDGERBAL><BALAMT>" + amount +
-         "<DTASOF>20260131</LEDGERBAL></STMTRS>";
 }
 
 } // namespace
@@ -56,165 +28,42 @@ TEST(BookReader, SplitsALineIntoWords)
               ElementsAre("A👩", R"(\u{0}\u{D800}\u{110000}\u{}\u{4)", R"(\u{-4})"));
 }
 
-TEST(BookReader, ReadsAmountsExactly)
+// Each line after "> " is carried out, and its answer follows. What is printed at the end makes the same
+// book again.
+TEST(Book, AnswersAsInTheTranscripts)
 {
-  for (auto const& [amount, currency, written] : std::initializer_list<std::array<char const*, 3>>{
-           {"-0.05", "EUR", "-0.05 EUR"},
-           {"-5", "EUR", "-5.00 EUR"},
-           {"7", "KWD", "7.000 KWD"},
-           {"-92233720368547758.08", "CAD", "-92233720368547758.08 CAD"},
-           {"20.5000", "CAD", "20.50 CAD"},
-           {"2050.00", "ISK", "2050 ISK"},
-           {"-0", "ISK", "0 ISK"}}) {
-    EXPECT_EQ(writtenAmount(toAmount(amount, currency)), written);
+  QDir const folder(TRANSCRIPTS);
+  for (auto const* const name : {"balances", "identifiers", "printing", "refusals"}) {
+    QFile file(folder.filePath(QString(name) + ".txt"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
+    Book book(folder);
+    for (auto const& exchange : ('\n' + toText(file.readAll())).split("\n> ").mid(1)) {
+      auto const line = exchange.section('\n', 0, 0);
+      EXPECT_EQ(answer(book, line).trimmed(), exchange.section('\n', 1).trimmed())
+          << line.toStdString();
+    }
+    Book again;
+    for (auto const& line : answer(book, "print").split('\n')) {
+      answer(again, line);
+    }
+    for (auto const* const shown : {"print", "list"}) {
+      EXPECT_EQ(answer(again, shown), answer(book, shown));
+    }
   }
 }
 
-TEST(Book, RefusesLinesAndStaysAsItWas)
+TEST(Book, RefusesWhatItCannotRead)
 {
-  Book book;
-  auto const before = listed(book, {"bank Elm 1=Loan", "reconcile 1 2026-01-31 -5 CAD"});
-  std::pair<QByteArray, char const*> const refusals[] = {
-      {"bank \"b", "A quoted word does not end"},
-      {"bank \xC3", "The line is not UTF-8 text"},
-      {QByteArray("bank a\0b", 8), "The line contains a NUL character."},
-      {"# my book\rbank a\r", "The line contains a carriage return"},
-      {"fly", "There is no command 'fly'; help shows"},
-      {"help A", "There is no command 'A'"},
-      {"remove Elm 1 2", "The command is written: remove NAME [NUMBER]."},
-      {"close", "The command is written: close NAME."},
-      {"bank Oak Tree 2=Loan", "The command is written: bank NAME [NUMBER=KIND ...]."},
-      {"update Elm 2 = Loan", "The command is written: update NAME"},
-      {"identifier 1 \" \"", "The command is written: identifier NUMBER IDENTIFIER."},
-      {"bank Oak 2=Loan 2=Goal", "The account number 2 is given twice."},
-      {"add Elm 2 Checking", "'Checking' is no kind of account; the kinds are: Chequeing, Cred"},
-      {"find 4294967296", "'4294967296' is not an account number"},
-      {"reconcile 2 2026-01-31 1 CAD", "No bank holds the account number 2"},
-      {"reconcile 1 2026/02/28 1 CAD", "'2026/02/28' is not a date such as 2026-01-31."},
-      {"reconcile 1 2026-01-31- 1 CAD", "'2026-01-31-' is not a date such as 2026-01-31."},
-      {"reconcile 1 2026-02-28 1 cad", "'cad' is not a currency code such as CAD."},
-      {"reconcile 1 2026-02-28 .5 CAD", "'.5' is not an amount of CAD such as"},
-      {"reconcile 1 2026-02-28 20.505 CAD", "'20.505' is not an amount of CAD such as"},
-      {"reconcile 1 2026-01-30 1 CAD", "There is an issue with the bank 'Elm'. The last"},
-      {"reconcile 1 2026-02-28 1 EUR", "The balance of the account number 1 is kept in CAD, not"},
-  };
-  for (auto const& [line, start] : refusals) {
-    refuses(book, line, start);
-  }
-  EXPECT_EQ(listed(book, {}), before);
-  EXPECT_EQ(run(book, "bank Oak"), ""); // and shows nothing of what was shown before
-}
-
-TEST(Book, KeepsBalancesWithTheirAccounts)
-{
-  Book book;
-  EXPECT_EQ(
-      listed(book, {"bank Elm 1=Loan 2=Goal 3=Savings 4=Goal", "reconcile 1 2026-01-31 -5.25 CAD",
-                    "reconcile 2 2026-01-31 6.25 CAD", "reconcile 3 2026-01-31 7.25 CAD",
-                    "rename Elm \"Big Elm\"", "add \"Big Elm\" 1 \"Credit Card\""}),
-      "Bank     State  Account  Kind         Class        Balance  Reconciled\n"
-      "-------  -----  -------  -----------  ---------  ---------  ----------\n"
-      "Big Elm  open         1  Credit Card  liability  -5.25\u00a0CAD  2026-01-31\n"
-      "Big Elm  open         2  Goal         asset       6.25\u00a0CAD  2026-01-31\n"
-      "Big Elm  open         3  Savings      asset       7.25\u00a0CAD  2026-01-31\n"
-      "Big Elm  open         4  Goal         asset\n");
-  EXPECT_THAT(run(book, "find 5"), StartsWith("No bank holds the account number 5"));
-
-  EXPECT_THAT(listed(book, {"bank Oak", "update \"Big Elm\" 1=Loan 2=Goal", "add Oak 3 Goal",
-                            "remove \"Big Elm\" 2", "add Oak 2 Goal"}),
-              Not(AnyOf(HasSubstr("6.25"), HasSubstr("7.25"))));
-  EXPECT_THAT(listed(book, {"close \"Big Elm\""}),
-              HasSubstr("closed        1  Loan  liability  -5.25"));
-  EXPECT_THAT(listed(book, {"open \"Big Elm\"", "remove \"Big Elm\"", "add Oak 1 Loan"}),
-              Not(AnyOf(HasSubstr("Elm"), HasSubstr("5.25"))));
-}
-
-TEST(Book, KeepsToTheIdentifierOfAnAccount)
-{
-  QTemporaryDir const folder;
-  write(folder.filePath("all"), "<OFX>" + statementOf("A-1", "5") + statementOf("A-2", "6") +
-                                    statementOf("A\u001b3", "7") + "</OFX>");
-  write(folder.filePath("one"), "<OFX>" + statementOf("A-1", "8") + "</OFX>");
-  Book book{QDir(folder.path())};
-  listed(book, {"bank Elm 1=Savings 2=Goal", "bank Oak 3=Savings"});
-  refuses(book, "statement all", "No account is bound to an identifier in the file.");
-  EXPECT_EQ(run(book, "statement 1 one"),
-            "1 (Savings): took the statement of A-1, dated 2026-01-31, with a balance of "
-            "8.00\u00a0CAD.\n");
-  refuses(book, "statement 1 all A-2", "The account number 1 is bound to 'A-1', not to 'A-2'");
-  refuses(book, "statement 2 one", "'A-1' is bound to another account of the bank, 1.");
-  EXPECT_THAT(run(book, "statement 1 all"), HasSubstr("A-1")); // among several, the one bound to
-  run(book, "identifier 2 A-2");
-  EXPECT_THAT(run(book, "statement all"),
-              AllOf(HasSubstr("1 (Savings)"), HasSubstr("2 (Goal)"),
-                    HasSubstr("\nNo account is bound to A\\u{1B}3.\n")));
-
-  auto const before = listed(book, {"identifier 3 A-1"});
-  refuses(book, "statement all", "Accounts of several banks are bound to 'A-1'.");
-  run(book, "add Oak 3 Goal"); // of another kind, and so without an identifier
-  listed(book, {"reconcile 2 2026-02-28 9 CAD", "rename Elm Ash", "close Ash"});
-  auto const late = run(book, "print");
-  refuses(book, "statement all", "There is an issue with the bank 'Ash'. The last");
-  EXPECT_EQ(run(book, "print"), late); // with what came before the one that is late
-  listed(book, {"open Ash", "update Ash 1=Savings", "add Ash 2 Goal", "remove Ash 1"});
-  EXPECT_THAT(run(book, "print"), Not(HasSubstr("identifier")));
-
+  Book book{QDir(TRANSCRIPTS)};
+  answer(book, "bank Elm 1=Loan");
   for (auto const* const name : {"missing", "."}) {
-    refuses(book, QByteArray("statement 2 ") + name, folder.path().toStdString());
+    EXPECT_THAT(answer(book, QString("statement 1 ") + name).toStdString(),
+                StartsWith(TRANSCRIPTS "/" + std::string(name) + " cannot be read: "));
   }
-}
-
-TEST(Book, WarnsOfTheFuture)
-{
-  Book book;
-  takeMessages();
-  listed(book, {"bank Elm 1=Loan", "reconcile 1 2026-01-31 1 CAD", "reconcile 1 9999-12-31 1 CAD"});
-  auto const messages = takeMessages();
-  ASSERT_EQ(messages.size(), 1);
-  EXPECT_TRUE(messages[0].contains("9999-12-31 of the account number 1 lies in the future"))
-      << messages[0].toStdString();
-}
-
-TEST(Book, PrintsWhatMakesItAgain)
-{
-  Book book;
-  listed(book, {R"(bank "\u{1B}[2J \"\\u{41}" 1=Loan "2=Credit Card")", R"(bank "#")", "bank a#b\\",
-                "close a#b\\", "add a#b\\ 3 Savings", "identifier 1 \"A B\"",
-                "reconcile 1 2026-01-31 -0.05 CAD", "reconcile 3 2026-01-31 2050 ISK"});
-  auto const printed = run(book, "print");
-  Book again;
-  for (auto const& line : QByteArray::fromStdString(printed).split('\n')) {
-    run(again, line);
-  }
-  EXPECT_EQ(run(again, "print"), printed);
-  EXPECT_EQ(run(again, "list"), run(book, "list"));
-  EXPECT_EQ(printed, R"(bank "\u{1B}[2J \"\\u{41}" 1=Loan "2=Credit Card"
-bank "#"
-bank "a#b\\" 3=Savings
-identifier 1 "A B"
-reconcile 1 2026-01-31 -0.05 CAD
-reconcile 3 2026-01-31 2050 ISK
-close "a#b\\"
-)");
-}
-
-TEST(Terminal, ObeysNothingThatABookSays)
-{
-  Book book;
-  EXPECT_THAT(listed(book, {"bank \"\u001b[2J\u202e\u2028é\u0301\" 1=Goal"}),
-              HasSubstr("\n--------------------------  -----  -------  ----  -----  -------  "
-                        "----------\n\\u{1B}[2J\\u{202E}\\u{2028}é\u0301  open         1"));
-  EXPECT_EQ(run(book, "find 1"), "\\u{1B}[2J\\u{202E}\\u{2028}é\u0301: 1 (Goal)\n");
-}
-
-TEST(Terminal, AlignsByTheWidthOfCharacters)
-{
-  EXPECT_EQ(
-      toTable({{"A", "B"}, {"日本", "1"}, {"e\u0301", "22"}, {"👩\u200d🌾", "3"}, {"xyz"}}, "lr"),
-      "A      B\n"
-      "----  --\n"
-      "日本   1\n"
-      "e\u0301     22\n"
-      "👩\u200d🌾   3\n"
-      "xyz\n");
+  auto const refuses = [](QByteArray const& line, std::string const& start) {
+    EXPECT_THAT([&] { toText(line); }, ThrowsMessage<BookError>(StartsWith(start)));
+  };
+  refuses("bank \xC3", "The line is not UTF-8 text");
+  refuses(QByteArray("bank a\0b", 8), "The line contains a NUL character.");
+  refuses("# my book\rbank a\r", "The line contains a carriage return");
 }
