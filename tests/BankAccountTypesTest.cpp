@@ -94,7 +94,6 @@ TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
     EXPECT_LOGIC_ERROR(presentationText(type), strong.arg(digits, name));
     EXPECT_LOGIC_ERROR(presentationText(account, LocaleAware::No), strong.arg(digits, name));
     EXPECT_LOGIC_ERROR(toAccountTypes(type), strong.arg(digits, name));
-    EXPECT_LOGIC_ERROR(std::ostringstream() << type, strong.arg(digits, name));
     EXPECT_LOGIC_ERROR(isAssetAccount(type), side.arg("an asset"));
     EXPECT_LOGIC_ERROR(isLiabilityAccount(type), side.arg("a liability"));
   }

@@ -18,22 +18,13 @@ QString answer(Book& book, QString const& line)
 
 } // namespace
 
-TEST(BookReader, SplitsALineIntoWords)
-{
-  auto const words = [](char const* line) { return toWords(toText(line)); };
-  EXPECT_THAT(words("a  b#c\té\u00a0e # f\r"), ElementsAre("a", "b#c", "é\u00a0e"));
-  EXPECT_THAT(words(R"("a  b" "" 1="Credit Card" "\"\\\x#" \u{41})"),
-              ElementsAre("a  b", "", "1=Credit Card", R"("\\x#)", R"(\u{41})"));
-  EXPECT_THAT(words(R"("\u{41}\u{1F469}" "\u{0}\u{D800}\u{110000}\u{}\u{4" "\u{-4}")"),
-              ElementsAre("A👩", R"(\u{0}\u{D800}\u{110000}\u{}\u{4)", R"(\u{-4})"));
-}
-
 // Each line after "> " is carried out, and its answer follows. What is printed at the end makes the same
 // book again.
 TEST(Book, AnswersAsInTheTranscripts)
 {
   QDir const folder(TRANSCRIPTS);
-  for (auto const* const name : {"balances", "identifiers", "printing", "refusals"}) {
+  for (auto const* const name :
+       {"balances", "identifiers", "printing", "refusals", "statements", "words"}) {
     QFile file(folder.filePath(QString(name) + ".txt"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
     Book book(folder);

@@ -46,6 +46,7 @@ Run run(
 
 TEST(Program, EndsWithAStatus)
 {
+  QByteArray const longest(1 << 20, '#');
   std::tuple<QStringList, QByteArray, int, char const*, char const*> const rows[]{
       {{"--quiet"}, "bank Elm\nadd Elm 1 Loan\r\n\n# all\nlist # it\n", 0, "Elm   open", ""},
       {{}, "bank Elm\nadd Elm 1 Loan", 0, "", "Adding"},
@@ -62,22 +63,14 @@ TEST(Program, EndsWithAStatus)
       {{"--quiet"}, "bank 日本\nbank Elm\nlist", 0, "日本  open\n", ""},
       {{"--quiet"}, "add \u001b 1 Loan", 1, "", "bank '\\u{1B}'"},
       {{"--quiet"}, "quit\nbank Elm\nlist", 1, "Elm   open", "no command 'quit'"},
-      {{"--quiet"},
-       QByteArray(1 << 20, '#') + '\n' + QByteArray(3 << 20, '#') + "\n\nfly",
+      {{},
+       longest + '\n' + longest.repeated(3) + "\nfly",
        1,
        "",
-       "standard input:2: The line is longer than 1 MiB.\nstandard input:4: There is"},
+       "1 MiB.\nstandard input:3: There"},
       {{"--quiet"}, "bank Elm 1=Loan\nreconcile 1 2026-01-31 1 CAD", 0, "", ""},
-      {{"--quiet"},
-       "bank Elm 1=Loan\nreconcile 1 9999-12-31 1 CAD",
-       0,
-       "",
-       "The date 9999-12-31 of the account number 1 lies in the future"},
-      {{"--quiet", "--locale", "en_CA", HOUSEHOLD},
-       "",
-       1,
-       "1010  Chequeing    asset          $2,090.20  2025-12-31\n",
-       "\n3 of 123 lines were refused.\n"},
+      {{"--quiet"}, "bank Elm 1=Loan\nreconcile 1 9999-12-31 1 CAD", 0, "", "in the future"},
+      {{"--locale", "en_CA", HOUSEHOLD}, "", 1, "     $2,090.20  2025-12-31\n", "\n3 of 123 lines"},
       {{}, QByteArray("fly\n").repeated(11), 1, "", "11 of 11 lines were refused; --strict stops"},
   };
   for (auto const& [arguments, lines, status, out, err] : rows) {

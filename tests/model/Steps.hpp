@@ -55,8 +55,11 @@ void step(BankMap& map, Model& model, auto const& operation, auto const&... what
 {
   auto const before = map;
   auto const banksBefore = model.banks;
+  takeMessages();
   auto const isMade = isDone(operation, map);
+  auto const logged = takeMessages();
   auto isSame = isDone(operation, model) == isMade && std::ranges::equal(map, model.banks);
+  isSame = isSame && (takeMessages() == logged || !isMade); // the model's banks log, and only they
   for (auto const& [name, bank] : map) {
     for (auto const& [number, type] : bank.accounts()) {
       isSame = isSame && map.find(number) == bank;
@@ -68,7 +71,6 @@ void step(BankMap& map, Model& model, auto const& operation, auto const&... what
     text << (isMade ? ", made" : ", refused") << "\nbefore: " << before << "\nafter: " << map;
     throw std::logic_error(text.str());
   }
-  takeMessages();
 }
 
 /// Makes a registry of drawn banks, and then so many drawn changes. Throws std::logic_error, which
