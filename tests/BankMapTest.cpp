@@ -82,9 +82,6 @@ TEST(BankMap, TakesNamesAndNumbersOfItsOwn)
 {
   BankMap map({{elm, bank(elm, 9)}});
   auto const& held = map.bank(elm);
-  map.close(held.name());
-  map.open(held.name());
-  map.add(held.name(), held.accounts().begin()->first, Loan);
   map.remove(held.name(), held.accounts().begin()->first);
   map.rename(held.name(), pine);
   EXPECT_EQ(map, BankMap({{pine, bank(pine)}}));

@@ -42,6 +42,8 @@ TEST(Bank, LogsWhatItIsAsked)
   bank.remove(hundred);
   bank.close();
   auto messages = takeMessages();
+  bank.add(hundred, Loan); // closed, it still takes accounts and lets them go
+  bank.remove(hundred);
   QString const name("\"Financial Institution Name: (Elm)\"");
   EXPECT_EQ(
       messages,
