@@ -3,8 +3,6 @@
 #include "BookReader.hpp"
 #include "support/Testing.hpp"
 
-using namespace testing;
-
 namespace {
 
 QString answer(Book& book, QString const& line)
@@ -41,20 +39,4 @@ TEST(Book, AnswersAsInTheTranscripts)
       EXPECT_EQ(answer(again, shown), answer(book, shown));
     }
   }
-}
-
-TEST(Book, RefusesWhatItCannotRead)
-{
-  Book book{QDir(TRANSCRIPTS)};
-  answer(book, "bank Elm 1=Loan");
-  for (auto const* const name : {"missing", "."}) {
-    EXPECT_THAT(answer(book, QString("statement 1 ") + name).toStdString(),
-                StartsWith(TRANSCRIPTS "/" + std::string(name) + " cannot be read: "));
-  }
-  auto const refuses = [](QByteArray const& line, std::string const& start) {
-    EXPECT_THAT([&] { toText(line); }, ThrowsMessage<BookError>(StartsWith(start)));
-  };
-  refuses("bank \xC3", "The line is not UTF-8 text");
-  refuses(QByteArray("bank a\0b", 8), "The line contains a NUL character.");
-  refuses("# my book\rbank a\r", "The line contains a carriage return");
 }

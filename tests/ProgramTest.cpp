@@ -71,6 +71,11 @@ TEST(Program, EndsWithAStatus)
       {{"--quiet"}, "bank Elm 1=Loan\nreconcile 1 2026-01-31 1 CAD", 0, "", ""},
       {{"--quiet"}, "bank Elm 1=Loan\nreconcile 1 9999-12-31 1 CAD", 0, "", "in the future"},
       {{"--locale", "en_CA", HOUSEHOLD}, "", 1, "     $2,090.20  2025-12-31\n", "\n3 of 123 lines"},
+      {{}, "bank \xC3", 1, "", "standard input:1: The line is not UTF-8 text"},
+      {{}, QByteArray("bank a\0b", 8), 1, "", "The line contains a NUL character."},
+      {{}, "# my book\rbank a\r", 1, "", "The line contains a carriage return"},
+      {{}, "bank Elm 1=Loan\nstatement 1 missing", 1, "", "/missing cannot be read: "},
+      {{}, "bank Elm 1=Loan\nstatement 1 .", 1, "", "/. cannot be read: "},
       {{}, QByteArray("fly\n").repeated(11), 1, "", "11 of 11 lines were refused; --strict stops"},
   };
   for (auto const& [arguments, lines, status, out, err] : rows) {
