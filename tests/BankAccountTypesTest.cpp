@@ -5,17 +5,15 @@
 using orv::accounting::AccountTypes;
 using orv::foundation::LocaleAware;
 
-namespace {
-
 // In the order in which texts are recognised.
-std::tuple<int, QString, AccountTypes> const kinds[] = {
+static std::tuple<int, QString, AccountTypes> const kinds[] = {
     {1, "Chequeing", AccountTypes::Asset},       {5, "Goal", AccountTypes::Asset},
     {2, "Credit Card", AccountTypes::Liability}, {3, "Loan", AccountTypes::Liability},
     {4, "Savings", AccountTypes::Asset},         {0, "Unknown", AccountTypes{}}};
 
 // What has been written when a value throws because of its kind, first to a standard, then to a
 // debug stream.
-QString writtenBeforeKind(auto const& value)
+static QString writtenBeforeKind(auto const& value)
 {
   std::ostringstream stream;
   EXPECT_THROW(stream << value, std::logic_error);
@@ -23,8 +21,6 @@ QString writtenBeforeKind(auto const& value)
   EXPECT_THROW(QDebug(&text) << value, std::logic_error);
   return QString::fromStdString(stream.str()) + text;
 }
-
-} // namespace
 
 TEST(BankAccountTypes, HaveTextsAndClasses)
 {

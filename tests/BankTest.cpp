@@ -55,11 +55,10 @@ TEST(Bank, LogsWhatItIsAsked)
 
   QFile page(ORV_BANKING_LOG_PAGE);
   EXPECT_TRUE(page.open(QIODevice::ReadOnly));
-  QRegularExpression const quoted("`((Opening|Closing|Adding|Removing) [^`]*)`");
-  QStringList quotes;
-  for (auto matches = quoted.globalMatch(page.readAll()); matches.hasNext();) {
-    quotes += matches.next().captured(1).simplified();
-  }
+  auto const quotes = QString(page.readAll())
+                          .simplified()
+                          .split('`')
+                          .filter(QRegularExpression("^(Opening|Closing|Adding|Removing) "));
   EXPECT_THAT(quotes, testing::UnorderedElementsAreArray(messages.replaceInStrings("~", "")));
 }
 

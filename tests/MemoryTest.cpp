@@ -2,18 +2,14 @@
 
 #include <cstdlib>
 
-namespace {
+static bool isMeasured = false;
+static long room = 0; // for how many allocations there is memory
+static long made = 0;
 
-bool isMeasured = false;
-long room = 0; // for how many allocations there is memory
-long made = 0;
-
-bool isFull() noexcept
+static bool isFull() noexcept
 {
   return isMeasured && ++made > room;
 }
-
-} // namespace
 
 // These stand before the C library's, and so before operator new, the standard containers and Qt.
 // What they call are the C library's other names for them.

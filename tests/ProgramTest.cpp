@@ -10,8 +10,6 @@
 
 using namespace testing;
 
-namespace {
-
 struct Run
 {
   int status;
@@ -20,7 +18,7 @@ struct Run
 };
 
 // Runs bankbook with these lines on standard input, if any, in an environment without a language.
-Run run(
+static Run run(
     QStringList arguments, QByteArray const& lines = {},
     std::function<void(QProcess&)> const& prepare = [](QProcess&) {})
 {
@@ -41,8 +39,6 @@ Run run(
   return {process.exitCode(), read(process.readAllStandardOutput()),
           read(process.readAllStandardError())};
 }
-
-} // namespace
 
 TEST(Program, EndsWithAStatus)
 {

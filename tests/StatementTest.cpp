@@ -2,10 +2,8 @@
 
 #include "support/Testing.hpp"
 
-namespace {
-
 // As a bank sends it: tags without ends, a header, a transfer and another balance.
-QByteArray const sent = R"(OFXHEADER:100
+static QByteArray const sent = R"(OFXHEADER:100
 
 <OFX><TRNUID>0<STMTRS><CURDEF>CAD<BANKACCTFROM><ACCTID>A-1<ACCTTYPE>CHECKING</BANKACCTFROM><MKTGINFO>
 <BANKTRANLIST><STMTTRN><NAME>AT&T <3 <BANKACCTFROM><ACCTID>B-2</BANKACCTFROM></STMTTRN></BANKTRANLIST>
@@ -17,7 +15,7 @@ QByteArray const sent = R"(OFXHEADER:100
 
 // What the account's statement says once `before` is replaced in what was sent: the account, the balance
 // and its date, or the refusal.
-QString outcome(QByteArray const& before, QByteArray const& after)
+static QString outcome(QByteArray const& before, QByteArray const& after)
 {
   EXPECT_TRUE(sent.contains(before)) << before.data();
   try {
@@ -30,8 +28,6 @@ QString outcome(QByteArray const& before, QByteArray const& after)
   }
 }
 
-} // namespace
-
 TEST(Statement, IsTakenAsBanksSendItUnlessItCannotBeReliedOn)
 {
   QString const taken("A-1 20.50\u00a0CAD 2025-12-31");
@@ -43,8 +39,6 @@ TEST(Statement, IsTakenAsBanksSendItUnlessItCannotBeReliedOn)
       {"", "", taken},
       {"OFXHEADER:100\n\n<OFX>", "<ofx>", taken},
       {"20.50\n", "<!-- 9 -->+,5</BALAMT>", "A-1 0.50\u00a0CAD 2025-12-31"},
-      {"20.50", "20.5000000000", taken},
-      {"20.50", "-92233720368547758.08", "A-1 -92233720368547758.08\u00a0CAD 2025-12-31"},
       {"235959.000[-5:EST]", "0000[+14]", taken},
       {"A-1", "&nbsp; A&amp;&#66;\n<![CDATA[<1>]]>", "A&B <1> 20.50\u00a0CAD 2025-12-31"},
       {"A-1", QByteArray("A\0001", 3), "A\uFFFD1 20.50\u00a0CAD 2025-12-31"},
@@ -68,10 +62,6 @@ TEST(Statement, IsTakenAsBanksSendItUnlessItCannotBeReliedOn)
       {"235959.000[-5:EST]", "23595", unread.arg("LEDGERBAL/DTASOF '2025123123595'")},
       // Elements that hold others, without a start or an end, and what cannot be in a whole file.
       {"<STMTRS>", "<STMTRS><STMTRS></STMTRS>", damaged},
-      {"<STMTRS>", "<STMTRS></STMTRS>", damaged},
-      {"<STMTRS>", "", damaged},
-      {"</STMTRS>", "</CCSTMTRS>", damaged},
-      {"</STMTRS>", "", damaged},
       {"<BANKTRANLIST>", "", damaged},
       {"</STMTTRN>", "", damaged},
       {"</BANKACCTFROM><MKTGINFO>", "", damaged},
