@@ -17,7 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
     try {
       execute(book, toWords(toText(line)));
       before = shown(book);
-      continue;
     } catch (BookError const&) { // anything else ends the program
     } catch (orv::banking::BankError const&) {
     }

@@ -5,11 +5,7 @@
 static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount>);
 static_assert(std::is_nothrow_move_constructible_v<ReconciledBankAccount>);
 
-namespace {
-
-BankAccount const chequeing{elm, {hundred, Chequeing}};
-
-} // namespace
+static BankAccount const chequeing{elm, {hundred, Chequeing}};
 
 TEST(ReconciledBankAccount, RefusesTheEarlierDate)
 {
@@ -17,8 +13,6 @@ TEST(ReconciledBankAccount, RefusesTheEarlierDate)
   EXPECT_REFUSED(
       account, account.reconcile(march.addDays(-1), Money()), elm,
       "The last reconciled date, 2026-03-31, cannot be updated to be in the past, 2026-03-30.");
-  EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
-                 "The last reconciled date, 2026-03-31, cannot be updated to be in the past, .");
   QLocale::setDefault(QLocale("de_DE")); // which only the error follows
   EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
                  "The last reconciled date, " + QLocale().toString(march, QLocale::ShortFormat) +

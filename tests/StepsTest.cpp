@@ -31,9 +31,7 @@ TEST(Steps, DrawnAtRandomDoAsTheModel)
   for (unsigned int seed = 0; seed < 50; ++seed) {
     threads.push_back(std::async(std::launch::async, [seed] {
       std::mt19937 random(seed);
-      auto const draw = [&](unsigned int bound) {
-        return static_cast<unsigned int>(random() % bound);
-      };
+      auto const draw = [&](auto bound) { return static_cast<unsigned int>(random()) % bound; };
       for (int registry = 0; registry < 10; ++registry) {
         ASSERT_NO_THROW(takeSteps(50, draw)) << "seed " << seed;
       }

@@ -14,8 +14,7 @@ struct Model
 {
   std::map<BankName, Bank> banks;
 
-  Model() = default;
-  explicit Model(std::map<BankName, Bank> const& drawn)
+  explicit Model(std::map<BankName, Bank> const& drawn = {})
   {
     for (auto const& [name, bank] : drawn) {
       put(bank, true);
