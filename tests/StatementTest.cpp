@@ -68,6 +68,7 @@ TEST(Statement, IsTakenAsBanksSendItUnlessItCannotBeReliedOn)
       {"</STMTTRN>", "", damaged},
       {"</BANKACCTFROM><MKTGINFO>", "", damaged},
       {"</LEDGERBAL>", "", damaged},
+      {"</LEDGERBAL></STMTRS>", "</STMTRS></LEDGERBAL>", damaged},
       {"<AVAILBAL>", "", damaged},
       {"</OFX>", "<!-- </OFX>", damaged},
       {"</OFX>", "<![CDATA[ <!-- --> </OFX>", damaged},
