@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 
 #include <climits>
-#include <map>
 #include <sstream>
 
 using namespace orv::banking;
@@ -200,8 +199,11 @@ QString takeBound(Book& book, Statements const& file)
 void add(Book& book, Words const& words)
 {
   auto const number = toAccountNumber(words[2]);
-  book.banks.add(BankName(words[1]), number, toKind(words[3]));
-  book.identifiers.remove(number);
+  auto const kind = toKind(words[3]);
+  auto const holder = book.banks.find(number);
+  auto const before = holder ? holder->accounts().at(number) : kind;
+  book.banks.add(BankName(words[1]), number, kind);
+  drop(book, {{number, before}}, {{number, kind}});
 }
 
 void identify(Book& book, Words const& words)

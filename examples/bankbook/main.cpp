@@ -19,9 +19,7 @@
 namespace {
 
 // Exit statuses.
-constexpr int allDone = 0;
-constexpr int linesRefused = 1;
-constexpr int notRun = 2;
+constexpr int allDone = 0, linesRefused = 1, notRun = 2;
 
 // Writes a line to standard error. Returns the status for an end because of it.
 int tell(QString const& text)
