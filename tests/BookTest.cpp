@@ -35,17 +35,3 @@ TEST(Book, AnswersAsInTheTranscripts)
               answer(book, "print") + answer(book, "list"));
   }
 }
-
-TEST(Book, RefusesALineThatIsNoText)
-{
-  Book book;
-  std::pair<QByteArray, QString> const rows[]{
-      {QByteArray("a\0b", 3), "The line contains the character \\u{0}, which cannot be shown."},
-      {"list\rlist\r", "The line contains the character \\u{D}, which cannot be shown."},
-      {"# \u202e", "The line contains the character \\u{202E}, which cannot be shown."},
-      {"bank \xC3", "The line is not UTF-8 text; save the book as UTF-8."},
-  };
-  for (auto const& [line, text] : rows) {
-    EXPECT_EQ(answer(book, line), text + '\n');
-  }
-}

@@ -47,7 +47,7 @@ struct Books
   std::map<BankName, Bank> banks{{elm, updated}, {oak, Bank(oak, {}, true)}};
 };
 
-// The name, whether it takes memory, and the operation.
+// The name, whether it may take memory, and the operation.
 std::tuple<char const*, bool, std::function<void(Books&)>> const rows[] = {
     {"update", false, [](auto& books) { books.map.update(std::move(books.updated)); }},
     {"rename", false, [](auto& books) { books.map.rename(elm, pine); }},
@@ -91,7 +91,7 @@ TEST(Memory, IsTakenForWhatIsGivenAndMayBeFull)
   for (auto const& [name, takesMemory, operation] : rows) {
     room = 1000;
     auto const expected = outcome(operation);
-    EXPECT_EQ(made > 0, takesMemory) << name << ": " << made;
+    EXPECT_TRUE(made == 0 || takesMemory) << name << ": " << made;
     for (room = made - 1; room >= 0; --room) {
       auto const left = outcome(operation);
       EXPECT_TRUE(left == unchanged || left == expected) << name << ": " << left.toStdString();

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 
 #if __has_include(<pty.h>)
 #include <pty.h>
@@ -35,7 +36,11 @@ static Run run(
   process.write(lines);
   process.closeWriteChannel();
   EXPECT_TRUE(process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit);
-  auto const read = [](QByteArray text) { return text.replace("\r\n", "\n").toStdString(); };
+  // From 6.8 on, Qt complains where the locale is not one for UTF-8.
+  static QRegularExpression const complaint("(?s)^Detected locale .*for more information\\.\n");
+  auto const read = [](QByteArray text) {
+    return QString::fromUtf8(text.replace("\r\n", "\n")).remove(complaint).toStdString();
+  };
   return {process.exitCode(), read(process.readAllStandardOutput()),
           read(process.readAllStandardError())};
 }
@@ -115,7 +120,9 @@ TEST(Program, GuidesAtAPrompt)
   int ours = 0;
   int theirs = 0;
   char name[100];
-  ASSERT_EQ(openpty(&ours, &theirs, name, nullptr, nullptr), 0);
+  if (openpty(&ours, &theirs, name, nullptr, nullptr) != 0) {
+    GTEST_SKIP() << "There is no terminal to be had.";
+  }
   std::string const typed = "bank Elm\n help # me\nadd Elm 1 Loan\nfly\nlist\n quit # it\n";
   ASSERT_EQ(write(ours, typed.data(), typed.size()), typed.size());
   auto const atTerminal = [&](QProcess& process) { process.setStandardInputFile(name); };
