@@ -24,6 +24,7 @@ static QString writtenBeforeKind(auto const& value)
 
 TEST(BankAccountTypes, HaveTextsAndClasses)
 {
+  EXPECT_EQ(presentationText(Unknown), "Unknown");
   ScopedTranslator const translator;
   for (auto const& [value, text, accountType] : kinds) {
     auto const type = static_cast<BankAccountTypes>(value);
@@ -76,7 +77,8 @@ TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
   ScopedTranslator const translator;
   QString const name(typeid(BankAccountTypes).name());
   QString const weak("Failed to convert from the weak value '%1' to another type for '%2'.");
-  for (QString const text : {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "~~Loan"}) {
+  for (QString const text :
+       {"", "credit card", "CreditCard", " Loan", "Loan ", "%2", "~~Loan", "~loan"}) {
     EXPECT_EQ(fromNonLocalisedText(text), std::nullopt);
     EXPECT_LOGIC_ERROR(toBankAccountTypes(text), weak.arg(text, name));
   }

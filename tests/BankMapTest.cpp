@@ -56,6 +56,9 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.add(bank(none, 3, 100, 300)), none,
                  "The account '100' is already associated with the bank 'Oak %1' and cannot be "
                  "added again.");
+  EXPECT_REFUSED(map, map.add(bank(none, 100, 300)), none,
+                 "The account '100' is already associated with the bank 'Oak %1' and cannot be "
+                 "added again.");
   EXPECT_REFUSED(map, map.remove(none), none, "Cannot remove a bank that does not exist.");
   EXPECT_REFUSED(map, map.rename(none, elm), none,
                  "Cannot rename to 'Elm  € %2' when the bank does not exist.");
@@ -69,11 +72,15 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.update(bank(elm, 3, 100)), elm,
                  "Cannot update the account number, 3, as the bank 'Pine' is already associated "
                  "with that number.");
-  BankMap const nameless({{BankName(), Bank()}});
+  BankMap const nameless({{BankName(), Bank()}, {elm, bank(elm)}});
+  EXPECT_REFUSED(nameless, nameless.rename(elm, {}), elm,
+                 "Cannot rename to '' as it already exists.");
   EXPECT_REFUSED(nameless, nameless.rename({}, {}), {},
                  "Cannot rename to '' as it already exists.");
   // What is left to a bank, it logs.
   EXPECT_REFUSED(map, map.close(pine), pine, "Cannot close a bank that is already closed.", 1);
+  EXPECT_REFUSED(map, map.remove(elm, hundred), elm,
+                 "The account '100' is not associated with the financial institution.", 1);
   EXPECT_REFUSED(map, map.add(oak, hundred, Unknown), oak,
                  "Cannot add an account type of a financial institution that is unknown.", 1);
 }
@@ -82,7 +89,13 @@ TEST(BankMap, TakesNamesAndNumbersOfItsOwn)
 {
   BankMap map({{elm, bank(elm, 9)}});
   auto const& held = map.bank(elm);
-  map.remove(held.name(), held.accounts().begin()->first);
+  auto const account = held.accounts().begin(); // which stays where it is
+  map.close(held.name());
+  map.add(held.name(), hundred, Loan);
+  map.remove(held.name(), hundred);
+  map.open(held.name());
+  EXPECT_EQ(account, held.accounts().begin());
+  map.remove(held.name(), account->first);
   map.rename(held.name(), pine);
   map.remove(held.name());
   EXPECT_EQ(map, BankMap());
@@ -91,10 +104,11 @@ TEST(BankMap, TakesNamesAndNumbersOfItsOwn)
 TEST(BankMap, TellsItsBanksInNameOrder)
 {
   BankName const small("elm  € %2");
-  BankMap const map({{oak, bank(oak)}, {small, closed(small)}, {elm, bank(elm, 3)}});
-  EXPECT_THAT(map.names(), testing::ElementsAre(elm, oak, small));
+  BankMap const map({{oak, bank(oak)}, {small, closed(small)}, {elm, bank(elm, 3)}, {{}, Bank()}});
+  EXPECT_THAT(map.names(), testing::ElementsAre(BankName(), elm, oak, small));
   EXPECT_EQ(streamed(map),
-            "Bank Map (Financial Institution Name: (Elm  € %2)=>" + streamed(map.bank(elm)) +
+            "Bank Map (Financial Institution Name: ()=>" + streamed(Bank()) +
+                ", Financial Institution Name: (Elm  € %2)=>" + streamed(map.bank(elm)) +
                 ", Financial Institution Name: (Oak %1)=>" + streamed(map.bank(oak)) +
                 ", Financial Institution Name: (elm  € %2)=>" + streamed(map.bank(small)) + ")");
   std::ostringstream stream;

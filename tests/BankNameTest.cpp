@@ -33,6 +33,7 @@ TEST(BankName, IsKeptAndWrittenAsItIs)
 
 TEST(BankName, IsOrderedByCodeUnitAndHashed)
 {
+  QLocale::setDefault(QLocale("de_DE"));
   // UTF-16 puts surrogates before U+FF21, which no other encoding does.
   std::vector<BankName> ordered{BankName()};
   for (auto const* const text : {"A", "A ", "B", "a", "e\u0301", "é", "\U0001F3E6", "\uFF21"}) {
@@ -44,4 +45,7 @@ TEST(BankName, IsOrderedByCodeUnitAndHashed)
   EXPECT_EQ(std::unordered_set<BankName>(ordered.begin(), ordered.end()).size(), 9U);
   EXPECT_NE(BankName("A"), BankName("a"));
   EXPECT_NE(qHash(elm, 1), qHash(elm, 2));
+  BankName const again(QString(elm.institution().constData())); // of a text of its own
+  EXPECT_EQ(qHash(again, 1), qHash(elm, 1));
+  EXPECT_EQ(std::hash<BankName>()(again), std::hash<BankName>()(elm));
 }

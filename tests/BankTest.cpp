@@ -1,6 +1,7 @@
 #include "support/Refusal.hpp"
 
 #include <QFile>
+#include <QLoggingCategory>
 #include <QRegularExpression>
 
 using Accounts = std::map<AccountNumber, BankAccountTypes>;
@@ -19,6 +20,12 @@ TEST(Bank, RefusesToBreakItsRules)
   EXPECT_REFUSED(bank, Bank(elm, unknown, true), elm,
                  "The bank account type of a financial institution cannot be unknown.");
   EXPECT_REFUSED(bank, bank.close(), elm, "Cannot close a bank that is already closed.", 1);
+  Bank const odd(BankName("<É>&  \n"), {}, true);
+  EXPECT_REFUSED(odd, odd.close(), odd.name(), "Cannot close a bank that is already closed.", 1);
+  QLocale::setDefault(QLocale("de_DE"));
+  EXPECT_REFUSED(bank, bank.remove(AccountNumber(4294967295U)), elm,
+                 "The account '4294967295' is not associated with the financial institution.", 1);
+  QLocale::setDefault(QLocale::c());
   EXPECT_REFUSED(open, open.open(), {}, "Cannot open a bank that is already opened.", 1);
   EXPECT_REFUSED(bank, bank.add(AccountNumber(), Unknown), elm,
                  "Cannot add an account number of a financial institution that is invalid.", 1);
@@ -38,6 +45,9 @@ TEST(Bank, LogsWhatItIsAsked)
   bank.open();
   bank.add(hundred, Loan);
   EXPECT_THROW(bank.add(hundred, noKind), std::logic_error);
+  QLoggingCategory::setFilterRules("default.info=false");
+  EXPECT_THROW(bank.add(hundred, noKind), std::logic_error);
+  QLoggingCategory::setFilterRules("");
   EXPECT_THROW(Bank(elm, {{hundred, noKind}}, false).remove(hundred), std::logic_error);
   bank.remove(hundred);
   bank.close();

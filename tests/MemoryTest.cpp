@@ -60,6 +60,7 @@ std::tuple<char const*, bool, std::function<void(Books&)>> const rows[] = {
     {"add", true, [](auto& books) { books.map.add(std::move(books.added)); }},
     {"close", true, [](auto& books) { books.map.close(elm); }},
     {"add a number", true, [](auto& books) { books.map.add(elm, AccountNumber(1), Loan); }},
+    {"change a kind", true, [](auto& books) { books.map.add(elm, hundred, Goal); }},
     {"remove a number", true, [](auto& books) { books.map.remove(elm, hundred); }},
     {"reconcile earlier", true, [](auto& books) { books.account.reconcile({}, dollars); }},
 };

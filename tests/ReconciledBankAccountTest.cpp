@@ -13,6 +13,9 @@ TEST(ReconciledBankAccount, RefusesTheEarlierDate)
   EXPECT_REFUSED(
       account, account.reconcile(march.addDays(-1), Money()), elm,
       "The last reconciled date, 2026-03-31, cannot be updated to be in the past, 2026-03-30.");
+  ReconciledBankAccount const nameless({}, dollars, march);
+  EXPECT_REFUSED(nameless, nameless.reconcile(QDate(), dollars), {},
+                 "The last reconciled date, 2026-03-31, cannot be updated to be in the past, .");
   QLocale::setDefault(QLocale("de_DE")); // which only the error follows
   EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
                  "The last reconciled date, " + QLocale().toString(march, QLocale::ShortFormat) +
@@ -56,6 +59,7 @@ TEST(ReconciledBankAccount, IsCopiedAndMovedWhole)
   EXPECT_EQ(streamed(self), text);
   EXPECT_EQ(copy.reconciledOn(), march);
   EXPECT_EQ(moved.reconciledOn(), march);
+  EXPECT_EQ(moved.bankAccount().accountNumberBankType.accountNumber, hundred);
   self.reconcile(march, Money(Currency("CAD")));
   EXPECT_EQ(streamed(original), text);
   self = ReconciledBankAccount();
