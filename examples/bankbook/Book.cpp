@@ -144,7 +144,8 @@ void record(Book& book, AccountNumber const& number, Statement const& statement)
   }
   ReconciledBankAccount(account, last.balance.money(), last.date).reconcile(date, balance.money());
   book.balances.insert(number, statement);
-  if (date > QDate::currentDate()) {
+  static auto const today = QDate::currentDate();
+  if (date > today) {
     auto const warning =
         Book::tr("The date %1 of the account number %2 lies in the future: no earlier one "
                  "will be taken, unless you remove the number and add it again.");

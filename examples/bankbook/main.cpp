@@ -64,12 +64,16 @@ void installTranslators()
 QByteArray readLine(QFile& file)
 {
   constexpr qsizetype longest = 1024 * 1024;
-  auto line = file.readLine(longest + 2); // of which Qt keeps one for a NUL
+  static QByteArray buffer(longest + 2, Qt::Uninitialized); // for a line feed and Qt's NUL, too
+  auto const read = [&] {
+    return buffer.first(qMax(0, file.readLine(buffer.data(), buffer.size())));
+  };
+  auto line = read();
   if (line.size() <= longest || line.endsWith('\n')) {
     return line;
   }
   while (!line.isEmpty() && !line.endsWith('\n')) {
-    line = file.readLine(longest);
+    line = read();
   }
   throw BookError(Book::tr("The line is longer than 1 MiB."));
 }
