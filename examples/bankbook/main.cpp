@@ -127,7 +127,7 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
     auto const text = refused > 10
                           ? Book::tr("%1 of %2 lines were refused; --strict stops at the first.")
                           : Book::tr("%1 of %2 lines were refused.");
-    tell(text.arg(refused).arg(done + refused));
+    tell(text.arg(QString::number(refused), QString::number(done + refused)));
   }
   return refused == 0 ? allDone : linesRefused;
 }
