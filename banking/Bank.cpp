@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <ostream>
-#include <string>
 #include <utility>
 
 namespace orv::banking {
@@ -100,16 +99,9 @@ bool operator==(Bank const& lhs, Bank const& rhs)
 std::ostream& operator<<(std::ostream& stream, Bank const& bank)
 {
   stream << "Bank: (" << bank.name() << "), Account Numbers: (";
-  // Accounts are many and kinds are few: the text of each is looked up once.
-  std::map<BankAccountTypes, std::string> kinds;
   char const* separator = "";
   for (auto const& [number, type] : bank.accounts()) {
-    stream << separator << number << "=>";
-    auto const [kind, isNew] = kinds.try_emplace(type);
-    if (isNew) {
-      kind->second = presentationText(type).toStdString();
-    }
-    stream << kind->second;
+    stream << separator << number << "=>" << type;
     separator = ", ";
   }
   return stream << "), Is Closed: " << std::boolalpha << bank.isClosed() << ')';

@@ -97,6 +97,13 @@ private:
 /// \relatesalso Bank
 ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
+/// Returns whether the names, the states or the accounts with their kinds differ.
+/// \relatesalso Bank
+inline bool operator!=(Bank const& lhs, Bank const& rhs)
+{
+  return !(lhs == rhs);
+}
+
 /// Writes "Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
 /// Closed: false)".
 ///

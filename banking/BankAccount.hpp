@@ -48,6 +48,8 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 
 QT_BEGIN_NAMESPACE
 
-Q_DECLARE_TYPEINFO(orv::banking::BankAccount, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(orv::banking::BankAccount,
+                   QTypeInfo<orv::accounting::AccountNumber>::isRelocatable ? Q_RELOCATABLE_TYPE
+                                                                            : Q_COMPLEX_TYPE);
 
 QT_END_NAMESPACE

@@ -32,7 +32,7 @@ constexpr Kind kinds[] = {
      AccountTypes::Liability},
     {BankAccountTypes::Loan, u"" QT_TRANSLATE_NOOP("QObject", "Loan"), AccountTypes::Liability},
     {BankAccountTypes::Savings, u"" QT_TRANSLATE_NOOP("QObject", "Savings"), AccountTypes::Asset},
-    {BankAccountTypes::Unknown, u"" QT_TRANSLATE_NOOP("QObject", "Unknown"), AccountTypes::Unknown},
+    {BankAccountTypes::Unknown, u"" QT_TRANSLATE_NOOP("QObject", "Unknown"), AccountTypes{}},
 };
 
 constexpr Kind const* findKind(BankAccountTypes type) noexcept

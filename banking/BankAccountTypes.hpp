@@ -44,7 +44,8 @@ enum class BankAccountTypes : std::int32_t
 /// Returns whether the kind is a liability: credit card or loan. False for `Unknown`.
 [[nodiscard]] ORV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
 
-/// Returns the class of the account in the ledger: `AccountTypes::Asset`, `Liability` or `Unknown`.
+/// Returns the class of the account in the ledger: `AccountTypes::Asset` or `Liability`, or zero for
+/// `Unknown`.
 [[nodiscard]] ORV_BANKING_EXPORT accounting::AccountTypes
 toAccountTypes(BankAccountTypes const& type);
 
@@ -61,7 +62,6 @@ toAccountTypes(BankAccountTypes const& type);
 ///
 /// The text must be equal letter for letter. It never depends on the user's language, so use it for
 /// what was stored. "Unknown" is the text of `Unknown`. Nothing is thrown.
-/// \since 1.1.1
 [[nodiscard]] ORV_BANKING_EXPORT std::optional<BankAccountTypes>
 fromNonLocalisedText(QString const& text);
 

@@ -13,10 +13,9 @@ namespace orv::banking {
 /// \page conventions Conventions
 /// These hold for every type of `orv::banking`. A declaration says only what differs.
 ///
-/// **Errors.** A broken rule throws `BankError`, whose text is for the user. `std::logic_error`, of
-/// which `std::invalid_argument` is one, has an English text for the programmer; a user's input
-/// causes it only in `toBankAccountTypes` and, by another currency, in `reconcile`. The `\throws`
-/// lines of a call are in the order of its checks: if several rules are broken, the first one is
+/// **Errors.** A broken rule throws `BankError`, whose text is for the user. `std::logic_error` has
+/// an English text for the programmer; a user's input causes it only in `toBankAccountTypes`. The
+/// `\throws` lines of a call are in the order of its checks: if several rules are broken, the first one is
 /// reported. A member function that throws, whatever it throws, leaves its object unchanged, apart
 /// from a copy assignment that runs out of memory. What stays: an argument passed with `std::move`
 /// is moved from, a message is logged, and a `std::ostream` may have part of the value.
@@ -60,7 +59,7 @@ namespace orv::banking {
 /// memory is for assigning to and destroying only.
 ///
 /// **State after a move.** For assigning to and destroying only, unless the class says more. Moves
-/// and swaps throw nothing, apart from those of `ReconciledBalance`.
+/// and swaps throw nothing.
 ///
 /// **Storing.** Store `institution()`, `isClosed()`, and of each account `integer()` and
 /// `toNonLocalisedText`; load with the constructors.

@@ -27,10 +27,10 @@ Iterator holder(AccountNumber const& number, Iterator first, Iterator last)
                       [&](auto const& entry) { return entry.second.accounts().contains(number); });
 }
 
-// The account numbers that several banks hold. One pass with a set of those seen takes as long as a
-// copy of the map, as the set has its memory in few pieces: in one for each number, it takes twice
-// that. QSet ends the program if memory runs out.
-std::set<AccountNumber> numbersHeldTwice(std::map<BankName, Bank> const& banks)
+// The account numbers that break a rule: those that several banks hold, and the invalid one. One pass
+// with a set of those seen takes as long as a copy of the map, as the set has its memory in few
+// pieces: in one for each number, it takes twice that. QSet ends the program if memory runs out.
+std::set<AccountNumber> refusedNumbers(std::map<BankName, Bank> const& banks)
 {
   std::size_t count = 0;
   for (auto const& [name, bank] : banks) {
@@ -38,15 +38,15 @@ std::set<AccountNumber> numbersHeldTwice(std::map<BankName, Bank> const& banks)
   }
   std::pmr::monotonic_buffer_resource memory;
   std::pmr::unordered_set<unsigned int> seen(count, &memory);
-  std::set<AccountNumber> heldTwice;
+  std::set<AccountNumber> refused;
   for (auto const& [name, bank] : banks) {
     for (auto const& [number, type] : bank.accounts()) {
-      if (!seen.insert(number.integer()).second) {
-        heldTwice.insert(number);
+      if (!seen.insert(number.integer()).second || number == AccountNumber::invalid_) {
+        refused.insert(number);
       }
     }
   }
-  return heldTwice;
+  return refused;
 }
 
 // The smallest account number that both banks hold.
@@ -91,22 +91,21 @@ std::optional<HeldNumber> firstHeldByAnother(Bank const& bank,
 
 BankMap::BankMap(std::map<BankName, Bank> banks) : banks_(std::move(banks))
 {
-  auto const heldTwice = numbersHeldTwice(banks_);
+  auto const refused = refusedNumbers(banks_);
   for (auto entry = banks_.cbegin(); entry != banks_.cend(); ++entry) {
     auto const& [name, bank] = *entry;
     if (name != bank.name()) {
       throw BankError(name, QObject::tr("The key name does not match the value name, %1.")
                                 .arg(bank.name().institution()));
     }
-    // Bank refuses the invalid number, so none can hold it: this keeps the registry's own rule.
-    if (bank.accounts().contains(AccountNumber())) {
-      throw BankError(name, QObject::tr("A default account cannot be associated with a bank."));
-    }
-    if (heldTwice.empty()) {
+    if (refused.empty()) {
       continue; // as nearly always, without another walk of the accounts
     }
     for (auto const& [number, type] : bank.accounts()) {
-      if (heldTwice.contains(number)) {
+      if (number == AccountNumber::invalid_) { // which Bank refuses too
+        throw BankError(name, QObject::tr("A default account cannot be associated with a bank."));
+      }
+      if (refused.contains(number)) {
         // No earlier bank holds it, or the walk would have ended there.
         auto const other = holder(number, std::next(entry), banks_.cend());
         throw BankError(
@@ -263,6 +262,11 @@ void BankMap::update(Bank bank)
                               .arg(presentationText(held->number), held->holder.institution()));
   }
   entry->second = std::move(bank);
+}
+
+bool operator==(BankMap const& lhs, BankMap const& rhs)
+{
+  return std::ranges::equal(lhs, rhs);
 }
 
 std::ostream& operator<<(std::ostream& stream, BankMap const& banks)

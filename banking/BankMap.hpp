@@ -74,19 +74,15 @@ public:
   explicit BankMap(std::map<BankName, Bank> banks);
 
   /// Returns an iterator to the first bank: `for (auto const& [name, bank] : banks)`.
-  /// \since 1.1.1
   [[nodiscard]] const_iterator begin() const noexcept { return banks_.begin(); }
 
   /// Returns the iterator behind the last bank.
-  /// \since 1.1.1
   [[nodiscard]] const_iterator end() const noexcept { return banks_.end(); }
 
   /// Returns how many banks there are.
-  /// \since 1.1.1
   [[nodiscard]] size_type size() const noexcept { return banks_.size(); }
 
   /// Returns whether there is no bank.
-  /// \since 1.1.1
   [[nodiscard]] bool empty() const noexcept { return banks_.empty(); }
 
   /// Returns whether a bank of this name is registered. Letter case matters.
@@ -187,15 +183,20 @@ public:
   /// Complexity: O(B M log A).
   void update(Bank bank);
 
-  /// Returns whether both registries hold equal banks.
-  friend bool operator==(BankMap const& lhs, BankMap const& rhs)
-  {
-    return lhs.banks_ == rhs.banks_;
-  }
-
 private:
   std::map<BankName, Bank> banks_;
 };
+
+/// Returns whether both registries hold equal banks.
+/// \relatesalso BankMap
+ORV_BANKING_EXPORT bool operator==(BankMap const& lhs, BankMap const& rhs);
+
+/// Returns whether a bank of one registry has no equal in the other.
+/// \relatesalso BankMap
+inline bool operator!=(BankMap const& lhs, BankMap const& rhs)
+{
+  return !(lhs == rhs);
+}
 
 /// Writes "Bank Map (…=>…, …=>…)", with what `<<` writes of each name and bank.
 ///

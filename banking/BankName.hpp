@@ -48,7 +48,6 @@ public:
   [[nodiscard]] bool isEmpty() const noexcept { return institution_.isEmpty(); }
 
   /// Compares the texts by UTF-16 code unit.
-  /// \since 1.1.1
   friend std::strong_ordering operator<=>(BankName const& lhs, BankName const& rhs) noexcept
   {
     return lhs.institution_.compare(rhs.institution_) <=> 0;
@@ -65,6 +64,13 @@ inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
   return lhs.institution() == rhs.institution();
 }
 
+/// Returns whether the texts differ.
+/// \relatesalso BankName
+inline bool operator!=(BankName const& lhs, BankName const& rhs) noexcept
+{
+  return !(lhs == rhs);
+}
+
 /// Returns whether `lhs` comes before `rhs`.
 /// \relatesalso BankName
 inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
@@ -73,7 +79,6 @@ inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 }
 
 /// Returns a hash of the name, for `QHash` and `QSet`.
-/// \since 1.1.1
 /// \relatesalso BankName
 [[nodiscard]] inline std::size_t qHash(BankName const& name, std::size_t seed = 0) noexcept
 {
@@ -103,7 +108,6 @@ QT_END_NAMESPACE
 namespace std {
 
 /// Hashes bank names for `std::unordered_map` and `std::unordered_set`.
-/// \since 1.1.1
 template <>
 struct hash<orv::banking::BankName>
 {

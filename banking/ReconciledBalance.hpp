@@ -14,11 +14,7 @@ namespace orv::banking {
 ///
 /// It is plain data: nothing is checked, and there is no `==`, no hash and no `std::ostream <<`.
 ///
-/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`, but
-/// an assignment that would change the currency throws `std::invalid_argument`. So do `std::swap`,
-/// `std::sort`, and `insert` and `erase` of a `std::vector`: between two currencies they throw
-/// half-way, and leave values lost or doubled. For several currencies, use a `QList`, whose
-/// `append`, `insert` and `remove` assign nothing, and sort a list of indices.
+/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
 ///
 /// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
@@ -41,6 +37,7 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& bala
 
 QT_BEGIN_NAMESPACE
 
-Q_DECLARE_TYPEINFO(orv::banking::ReconciledBalance, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(orv::banking::ReconciledBalance,
+                   QTypeInfo<mintar::Money>::isRelocatable ? Q_RELOCATABLE_TYPE : Q_COMPLEX_TYPE);
 
 QT_END_NAMESPACE

@@ -11,8 +11,8 @@
 
 namespace orv::banking {
 
-// The balance is always set with Money::assign: the money library's own assignment refuses a change
-// of currency, and its constructors do not promise not to throw.
+// Copies and moves set the balance with Money::assign: the assignment of an installed money library
+// may refuse a change of currency, and its constructors do not promise not to throw.
 
 ReconciledBankAccount::ReconciledBankAccount(BankAccount bankAccount, mintar::Money balance,
                                              std::optional<QDate> reconciledOn)

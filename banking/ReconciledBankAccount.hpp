@@ -17,14 +17,11 @@ namespace orv::banking {
 ///
 /// To reconcile an account is to record the balance that the bank reported for a date. An account
 /// is a value of its own, which no registry knows. If its bank is renamed, or its kind changed,
-/// replace it by one of the new `BankAccount`, its `balance()` and its `reconciledOn()`. The
-/// program keeps the minor units and the currency of each amount that it will store:
-/// `mintar::Money` does not give them back.
+/// replace it by one of the new `BankAccount`, its `balance()` and its `reconciledOn()`.
 ///
-/// **Rules.** A reconciliation never moves back in time, and never changes the currency.
+/// **Rules.** A reconciliation never moves back in time.
 ///
-/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`. An assignment may
-/// change the currency, so all containers and algorithms work.
+/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`.
 ///
 /// **State after a move.** The date, the number and the kind are there; the rest is not to be read.
 ///
@@ -52,10 +49,10 @@ public:
   /// Moves the account and its balance, and copies its date.
   ReconciledBankAccount(ReconciledBankAccount&& other) noexcept;
 
-  /// Copies the account, its balance and its date. The currency may change.
+  /// Copies the account, its balance and its date.
   ReconciledBankAccount& operator=(ReconciledBankAccount const& other) noexcept;
 
-  /// Moves the account and its balance, and copies its date. The currency may change.
+  /// Moves the account and its balance, and copies its date.
   ReconciledBankAccount& operator=(ReconciledBankAccount&& other) noexcept;
 
   ~ReconciledBankAccount() = default;
@@ -76,8 +73,9 @@ public:
   ///
   /// \throws BankError if `date` is earlier than the last date; its text gives the last date, then
   ///         `date`, of which an invalid one is empty: "… cannot be updated to be in the past, ."
-  /// \throws std::invalid_argument if the account has a currency and `balance` has another one or
-  ///         none; its text is in English, for the programmer
+  ///
+  /// The balance may be in another currency than the last one. If an installed money library refuses
+  /// to assign it, its error passes through, and the account is unchanged.
   void reconcile(QDate const& date, mintar::Money const& balance);
 
 private:
@@ -102,6 +100,7 @@ ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& 
 
 QT_BEGIN_NAMESPACE
 
-Q_DECLARE_TYPEINFO(orv::banking::ReconciledBankAccount, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(orv::banking::ReconciledBankAccount,
+                   QTypeInfo<mintar::Money>::isRelocatable ? Q_RELOCATABLE_TYPE : Q_COMPLEX_TYPE);
 
 QT_END_NAMESPACE

@@ -52,6 +52,9 @@ function(orv_library package)
   endif()
 
   target_compile_features(${package} PUBLIC cxx_std_20)
+  # A host may define these for all that it builds.
+  target_compile_definitions(${package} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
   target_sources(${package}
     PRIVATE ${ARG_SOURCES} ${ARG_PRIVATE_HEADERS}
     PUBLIC

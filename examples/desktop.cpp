@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <sstream>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -105,15 +104,6 @@ BankMap load(std::vector<Row> const& rows, QStringList& problems)
 }
 //! [Load rows]
 
-//! [Amount]
-QString toText(mintar::Money const& amount)
-{
-  std::ostringstream text;
-  text << amount;
-  return QString::fromStdString(text.str());
-}
-//! [Amount]
-
 //! [Order]
 // The names as the user's language orders them: é beside e, capital letters beside small ones.
 std::vector<BankName> inUsersOrder(BankMap const& banks)
@@ -176,7 +166,7 @@ int main(int argc, char* argv[])
   // prints: There is an issue with the bank ''. The name of a financial institution cannot be empty.
 
   QLocale::setDefault(QLocale("en_CA"));
-  qInfo() << toText(mintar::Money(mintar::Currency("CAD"), 125050));
+  qInfo() << presentationText(mintar::Money(mintar::Currency("CAD"), 125050));
   // prints: "$1,250.50"
   qInfo() << presentationText(inUsersOrder(loaded).front())
           << presentationText(*loaded.names().begin());

@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 
 #include <climits>
-#include <sstream>
 
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
@@ -25,9 +24,7 @@ using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
 QString written(Amount const& amount)
 {
-  std::ostringstream text;
-  text << amount.money();
-  return QString::fromStdString(text.str());
+  return presentationText(amount.money());
 }
 
 // What there is to say of each command, which begins with a line on how it is written, and of the words

@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 
 #include <cstdlib>
@@ -16,9 +17,9 @@ QString isoText(QDate const& date)
     return {};
   }
   auto const year = date.year() < 0 ? date.year() + 1 : date.year();
-  auto const* const sign = year < 0 ? "-" : year > 9999 ? "+" : "";
-  return sign + QString::number(std::abs(year)).rightJustified(4, u'0') +
-         date.toString(QStringLiteral("-MM-dd"));
+  QString const digits = QString::number(std::abs(year)).rightJustified(4, u'0') +
+                         date.toString(QStringLiteral("-MM-dd"));
+  return year < 0 ? u'-' + digits : year > 9999 ? u'+' + digits : digits;
 }
 
 } // namespace
@@ -29,8 +30,12 @@ QString presentationText(QDate const& date)
 {
   QLocale const locale;
   // The C locale's own short form differs between releases of Qt.
-  return locale.language() == QLocale::C ? isoText(date)
-                                         : locale.toString(date, QLocale::ShortFormat);
+  if (locale.language() == QLocale::C) {
+    return isoText(date);
+  }
+  static QRegularExpression const shortYear(QStringLiteral("(?<!y)yy(?!y)"));
+  return locale.toString(
+      date, locale.dateFormat(QLocale::ShortFormat).replace(shortYear, QStringLiteral("yyyy")));
 }
 
 } // namespace orv::foundation

@@ -6,9 +6,6 @@
 #include <QString>
 
 #include <ostream>
-#include <sstream>
-#include <stdexcept>
-#include <utility>
 
 namespace mintar {
 
@@ -48,48 +45,16 @@ QString symbolFor(QLocale const& locale, QString const& isoCode)
 
 } // namespace
 
-Money::Money() noexcept : currency_(QString()) {}
-
-Money::Money(Currency const& currency) noexcept : currency_(currency) {}
-
-Money::Money(Currency const& currency, qint64 minorUnits) noexcept
-    : currency_(currency), minorUnits_(minorUnits)
+QString presentationText(Money const& money)
 {
-}
-
-Money& Money::operator=(Money const& other)
-{
-  if (!currency_.isoCode().isEmpty() && currency_ != other.currency_) {
-    throw std::invalid_argument("Cannot assign an amount of money in another currency.");
-  }
-  assign(other);
-  return *this;
-}
-
-Money& Money::assign(Money const& other) noexcept
-{
-  currency_ = other.currency_;
-  minorUnits_ = other.minorUnits_;
-  return *this;
-}
-
-Money& Money::assign(Money&& other) noexcept
-{
-  currency_ = std::move(other.currency_);
-  minorUnits_ = other.minorUnits_;
-  return *this;
-}
-
-std::ostream& operator<<(std::ostream& stream, Money const& money)
-{
-  auto const& isoCode = money.currency_.isoCode();
+  auto const& isoCode = money.currency().isoCode();
   if (isoCode.isEmpty()) {
-    return stream;
+    return {};
   }
   QLocale const locale;
-  auto const amount = magnitude(locale, money.minorUnits_, money.currency_.decimals());
-  auto symbol = symbolFor(locale, isoCode);
-  auto format = arrangement(locale, money.minorUnits_ < 0);
+  auto const amount = magnitude(locale, money.minorUnits(), money.currency().decimals());
+  auto const symbol = symbolFor(locale, isoCode);
+  auto format = arrangement(locale, money.minorUnits() < 0);
   if (symbol == isoCode) {
     // Letters do not touch digits; a locale that keeps its symbol apart has its own space already.
     QChar const noBreakSpace(0x00A0);
@@ -98,7 +63,12 @@ std::ostream& operator<<(std::ostream& stream, Money const& money)
         .replace(QStringLiteral("%1%2"),
                  QStringLiteral("%1") + noBreakSpace + QStringLiteral("%2"));
   }
-  return stream << format.arg(amount, symbol).toStdString();
+  return format.arg(amount, symbol);
+}
+
+std::ostream& operator<<(std::ostream& stream, Money const& money)
+{
+  return stream << presentationText(money).toStdString();
 }
 
 } // namespace mintar
@@ -107,10 +77,7 @@ QT_BEGIN_NAMESPACE
 
 QDebug operator<<(QDebug debug, mintar::Money const& money)
 {
-  std::ostringstream text;
-  text.exceptions(std::ios_base::badbit); // or a full memory would cut the text short, unnoticed
-  text << money;
-  return debug << QString::fromStdString(text.str());
+  return debug << presentationText(money);
 }
 
 QT_END_NAMESPACE

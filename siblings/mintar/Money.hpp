@@ -3,10 +3,12 @@
 #include <mintar/Currency.hpp>
 #include <mintar/Export.hpp>
 
+#include <QString>
 #include <QTypeInfo>
 #include <QtGlobal>
 
 #include <iosfwd>
+#include <utility>
 
 QT_FORWARD_DECLARE_CLASS(QDebug)
 
@@ -14,39 +16,36 @@ namespace mintar {
 
 /// An exact amount of money: a whole number of minor units of a currency, such as cents.
 ///
-/// Neither can be read back: a program that stores amounts keeps minor units and currency itself. An
-/// amount whose currency has an empty code is one without a currency.
+/// An amount whose currency has an empty code is one without a currency. Values are copied, moved and
+/// assigned whatever their currencies are, and throw nothing meanwhile.
 class MINTAR_EXPORT Money
 {
 public:
   /// Creates the amount zero without a currency.
-  Money() noexcept;
+  Money() noexcept : currency_(QString()) {}
 
   /// Creates the amount zero in this currency.
-  explicit Money(Currency const& currency) noexcept;
+  explicit Money(Currency const& currency) noexcept : currency_(currency) {}
 
   /// Creates an amount from minor units: 1250 of CAD is twelve dollars and fifty cents.
-  Money(Currency const& currency, qint64 minorUnits) noexcept;
+  Money(Currency const& currency, qint64 minorUnits) noexcept
+      : currency_(currency), minorUnits_(minorUnits)
+  {
+  }
 
-  /// Copies the amount and the currency.
-  Money(Money const& other) noexcept = default;
-
-  /// Moves the amount and the currency.
-  Money(Money&& other) noexcept = default;
-
-  ~Money() = default;
-
-  /// Replaces the amount. A value without a currency also takes the currency of `other`.
+  /// Returns the currency, which has an empty code if the amount has none.
   ///
-  /// \throws std::invalid_argument if this value has a currency and `other` has another one or
-  ///         none; this value is unchanged
-  Money& operator=(Money const& other);
+  /// The reference is valid as long as this amount exists. Later assignments show through it.
+  [[nodiscard]] Currency const& currency() const noexcept { return currency_; }
 
-  /// Replaces the amount and the currency, whatever they were.
-  Money& assign(Money const& other) noexcept;
+  /// Returns the amount in minor units of its currency.
+  [[nodiscard]] qint64 minorUnits() const noexcept { return minorUnits_; }
 
-  /// Replaces the amount and the currency, whatever they were, and moves from `other`.
-  Money& assign(Money&& other) noexcept;
+  /// Replaces the amount and the currency, as `=` does.
+  Money& assign(Money const& other) noexcept { return *this = other; }
+
+  /// Replaces the amount and the currency, as `=` does, and moves from `other`.
+  Money& assign(Money&& other) noexcept { return *this = std::move(other); }
 
   /// Returns whether amounts and currencies are equal.
   friend bool operator==(Money const& lhs, Money const& rhs) noexcept
@@ -54,17 +53,20 @@ public:
     return lhs.minorUnits_ == rhs.minorUnits_ && lhs.currency_ == rhs.currency_;
   }
 
-  friend MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money);
-
 private:
   Currency currency_;
   qint64 minorUnits_ = 0;
 };
 
-/// Writes the amount as the user's locale, `QLocale()`, shows money, in UTF-8.
+/// Returns the amount as the user's locale, `QLocale()`, shows money, for instance "$1,250.50".
 ///
-/// The locale's own currency has its symbol, every other currency its ISO 4217 code. A value
-/// without a currency writes nothing.
+/// The locale's own currency has its symbol, every other currency its ISO 4217 code. The text of an
+/// amount without a currency is empty.
+/// \relatesalso Money
+[[nodiscard]] MINTAR_EXPORT QString presentationText(Money const& money);
+
+/// Writes the presentation text of the amount in UTF-8.
+/// \relatesalso Money
 MINTAR_EXPORT std::ostream& operator<<(std::ostream& stream, Money const& money);
 
 } // namespace mintar
@@ -73,7 +75,7 @@ QT_BEGIN_NAMESPACE
 
 Q_DECLARE_TYPEINFO(mintar::Money, Q_RELOCATABLE_TYPE);
 
-/// Writes the text of the standard stream to a debug stream, as one `QString`.
+/// Writes the presentation text of the amount to a debug stream, as one `QString`.
 /// \relatesalso mintar::Money
 MINTAR_EXPORT QDebug operator<<(QDebug debug, mintar::Money const& money);
 
