@@ -2,17 +2,19 @@
 // of it. A comment "prints:" tells what is printed there; a test compares these comments with the output.
 
 #include <banking/BankMap.hpp>
-#include <banking/ReconciledBankAccount.hpp>
+#include <banking/ReconciledBalance.hpp>
 
 #include <QDebug>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSaveFile>
+#include <QTemporaryDir>
 
 #include <limits>
 #include <stdexcept>
 #include <utility>
-#include <vector>
 
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
@@ -20,23 +22,15 @@ using orv::accounting::AccountNumber;
 namespace {
 
 //! [Types]
-// A reconciled account, and beside it what cannot be read back from its balance.
-struct Account
-{
-  ReconciledBankAccount reconciled;
-  QString currency;
-  qint64 minorUnits = 0;
-};
-
 struct Books
 {
   BankMap banks;
-  std::vector<Account> accounts;
+  std::map<AccountNumber, ReconciledBalance> balances; // of the accounts that have been reconciled
 };
 //! [Types]
 
 //! [Save]
-QByteArray save(Books const& books)
+QByteArray toJson(Books const& books)
 {
   QJsonArray banks;
   for (auto const& [name, bank] : books.banks) {
@@ -48,16 +42,22 @@ QByteArray save(Books const& books)
     banks += QJsonObject{
         {"name", name.institution()}, {"accounts", accounts}, {"isClosed", bank.isClosed()}};
   }
-  QJsonArray balances; // the registry knows the bank and the kind of each
-  for (auto const& [reconciled, currency, minorUnits] : books.accounts) {
-    auto const& date = reconciled.reconciledOn();
-    auto const number = reconciled.bankAccount().accountNumberBankType.accountNumber.integer();
-    balances += QJsonObject{{"number", qint64(number)},
-                            {"currency", currency},
-                            {"minorUnits", minorUnits},
-                            {"date", date ? date->toString(Qt::ISODate) : QString()}};
+  QJsonArray balances;
+  for (auto const& [number, known] : books.balances) {
+    balances += QJsonObject{{"number", qint64(number.integer())},
+                            {"currency", known.balance.currency().isoCode()},
+                            {"minorUnits", known.balance.minorUnits()},
+                            {"date", known.occurredOn.toString(Qt::ISODate)}};
   }
   return QJsonDocument(QJsonObject{{"banks", banks}, {"balances", balances}}).toJson();
+}
+
+// Replaces the file as a whole, or returns false and leaves it as it was.
+bool save(Books const& books, QString const& fileName)
+{
+  QSaveFile file(fileName);
+  auto const json = toJson(books);
+  return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
 //! [Save]
 
@@ -69,78 +69,123 @@ public:
   explicit LoadError(QString const& text) : std::runtime_error(text.toStdString()) {}
 };
 
-AccountNumber toNumber(QJsonValue const& value)
+// The member of an object, which has to be there and to be of the type.
+QJsonValue member(QJsonValue const& object, QString const& name, QJsonValue::Type type)
 {
-  auto const integer = value.toInteger(); // 0 for what is no whole number
-  if (integer < 1 || integer > std::numeric_limits<quint32>::max()) {
-    throw LoadError(QString("%1 is not an account number.").arg(value.toVariant().toString()));
+  auto const value = object.toObject()[name];
+  if (value.type() != type) {
+    throw LoadError(QString("The file has no '%1' where one belongs, or a wrong one.").arg(name));
   }
-  return AccountNumber(static_cast<unsigned int>(integer));
+  return value;
 }
 
-BankAccountTypes toKind(QJsonValue const& value)
+QString text(QJsonValue const& object, QString const& name)
 {
-  if (auto const kind = fromNonLocalisedText(value.toString())) {
-    return *kind;
+  return member(object, name, QJsonValue::String).toString();
+}
+
+qint64 integer(QJsonValue const& object, QString const& name)
+{
+  auto const value = member(object, name, QJsonValue::Double);
+  auto const integer = value.toInteger();
+  if (integer == 0 && value.toDouble() != 0) {
+    throw LoadError(QString("'%1' has to be a whole number of 64 bits.").arg(name));
   }
-  throw LoadError(QString("'%1' is not a kind of account.").arg(value.toString()));
+  return integer;
+}
+
+AccountNumber number(QJsonValue const& object)
+{
+  auto const number = integer(object, "number");
+  if (number < 1 || number > std::numeric_limits<quint32>::max()) {
+    throw LoadError(QString("%1 is not an account number.").arg(number));
+  }
+  return AccountNumber(static_cast<unsigned int>(number));
+}
+
+BankAccountTypes kind(QJsonValue const& object)
+{
+  auto const kind = text(object, "kind");
+  if (auto const known = fromNonLocalisedText(kind)) {
+    return *known;
+  }
+  throw LoadError(QString("'%1' is not a kind of account.").arg(kind));
+}
+
+mintar::Money amount(QJsonValue const& object)
+{
+  return {mintar::Currency(text(object, "currency")), integer(object, "minorUnits")};
+}
+
+QDate date(QJsonValue const& object)
+{
+  auto const date = QDate::fromString(text(object, "date"), Qt::ISODate);
+  if (!date.isValid()) {
+    throw LoadError(QString("'%1' is not a date.").arg(text(object, "date")));
+  }
+  return date;
 }
 //! [Read a value]
 
 //! [Load]
-Bank toBank(QJsonObject const& saved)
+Bank toBank(QJsonValue const& saved)
 {
   std::map<AccountNumber, BankAccountTypes> accounts;
-  for (auto const& value : saved["accounts"].toArray()) {
-    auto const number = toNumber(value.toObject()["number"]);
-    if (!accounts.emplace(number, toKind(value.toObject()["kind"])).second) {
-      throw LoadError(QString("The number %1 is there twice.").arg(presentationText(number)));
+  for (auto const& account : member(saved, "accounts", QJsonValue::Array).toArray()) {
+    if (!accounts.emplace(number(account), kind(account)).second) {
+      throw LoadError(
+          QString("The number %1 is there twice.").arg(presentationText(number(account))));
     }
   }
-  return Bank(BankName(saved["name"].toString()), std::move(accounts), saved["isClosed"].toBool());
+  return Bank(BankName(text(saved, "name")), std::move(accounts),
+              member(saved, "isClosed", QJsonValue::Bool).toBool());
 }
 
-Account toAccount(QJsonObject const& saved, BankMap const& banks)
+Books fromJson(QByteArray const& json)
 {
-  auto const number = toNumber(saved["number"]);
-  auto const bank = banks.find(number);
-  if (!bank) {
-    throw LoadError(QString("No bank holds the number %1.").arg(presentationText(number)));
+  QJsonParseError error;
+  QJsonValue const saved = QJsonDocument::fromJson(json, &error).object();
+  if (error.error != QJsonParseError::NoError) {
+    throw LoadError(QString("The file is damaged: %1.").arg(error.errorString()));
   }
-  auto const currency = saved["currency"].toString();
-  auto const minorUnits = saved["minorUnits"].toInteger();
-  auto const date = QDate::fromString(saved["date"].toString(), Qt::ISODate);
-  return {{{bank->name(), {number, bank->accounts().at(number)}},
-           mintar::Money(mintar::Currency(currency), minorUnits),
-           date.isValid() ? std::optional(date) : std::nullopt},
-          currency,
-          minorUnits};
-}
-
-Books load(QByteArray const& json)
-{
-  auto const saved = QJsonDocument::fromJson(json).object();
   std::map<BankName, Bank> banks;
-  for (auto const& value : saved["banks"].toArray()) {
-    auto bank = toBank(value.toObject());
+  for (auto const& value : member(saved, "banks", QJsonValue::Array).toArray()) {
+    auto bank = toBank(value);
     auto const name = bank.name();
     if (!banks.emplace(name, std::move(bank)).second) {
       throw LoadError(QString("The bank '%1' is there twice.").arg(presentationText(name)));
     }
   }
   Books books{BankMap(std::move(banks)), {}}; // checks the rules that span banks
-  for (auto const& value : saved["balances"].toArray()) {
-    books.accounts.push_back(toAccount(value.toObject(), books.banks));
+  for (auto const& value : member(saved, "balances", QJsonValue::Array).toArray()) {
+    auto const ours = number(value);
+    if (!books.banks.find(ours)) {
+      throw LoadError(QString("No bank holds the number %1.").arg(presentationText(ours)));
+    }
+    if (!books.balances.emplace(ours, ReconciledBalance{amount(value), date(value)}).second) {
+      throw LoadError(QString("The balance of %1 is there twice.").arg(presentationText(ours)));
+    }
   }
   return books;
+}
+
+Books load(QString const& fileName)
+{
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw LoadError(file.errorString());
+  }
+  return fromJson(file.readAll());
 }
 //! [Load]
 
 //! [Catch]
-void open(QByteArray const& json)
+// Shows how many banks there are, or why they cannot be loaded. A program that goes on in spite of an error
+// must not save to the same file: that would replace the user's books.
+void show(QByteArray const& json)
 {
   try {
-    qInfo() << load(json).banks.size() << "banks";
+    qInfo() << fromJson(json).banks.size() << "banks";
   } catch (BankError const& error) { // a rule of banking is broken
     qInfo().noquote() << error.what();
   } catch (LoadError const& error) { // the file cannot be read
@@ -155,30 +200,28 @@ int main()
 {
   BankName const elm("Elm");
   BankName const oak("Oak");
-  mintar::Currency const cad("CAD");
   AccountNumber const loan(100);
-  BankMap const banks({{elm, Bank(elm, {{loan, BankAccountTypes::Loan}}, false)},
-                       {oak, Bank(oak, {{AccountNumber(200), BankAccountTypes::Goal}}, true)}});
   Books const books{
-      banks,
-      {{{{elm, {loan, BankAccountTypes::Loan}}, mintar::Money(cad, -125050), QDate(2026, 10, 31)},
-        "CAD",
-        -125050}}};
-  auto const json = save(books);
-  auto const loaded = load(json);
-  qInfo() << (loaded.banks == banks) << (save(loaded) == json);
-  // prints: true true
-  qInfo() << (loaded.accounts[0].reconciled.balance() == mintar::Money(cad, -125050));
+      BankMap({{elm, Bank(elm, {{loan, BankAccountTypes::Loan}}, false)},
+               {oak, Bank(oak, {{AccountNumber(200), BankAccountTypes::Goal}}, true)}}),
+      {{loan, {mintar::Money(mintar::Currency("CAD"), -125050), QDate(2026, 10, 31)}}}};
+  QTemporaryDir const folder;
+  auto const fileName = folder.filePath("books.json");
+  qInfo() << save(books, fileName);
   // prints: true
+  auto const loaded = load(fileName);
+  qInfo() << (loaded.banks == books.banks) << loaded.balances.at(loan).balance.minorUnits();
+  // prints: true -125050
 
-  open(json);
+  auto const json = toJson(books);
+  show(json);
   // prints: 2 banks
-  open(QByteArray(json).replace("Oak", "Elm"));
-  // prints: The bank 'Elm' is there twice.
-  open(QByteArray(json).replace("200", "100"));
+  show("garbage");
+  // prints: The file is damaged: illegal value.
+  show(R"({"bank": []})");
+  // prints: The file has no 'banks' where one belongs, or a wrong one.
+  show(QByteArray(json).replace("2026-10-31", "2026-13-31"));
+  // prints: '2026-13-31' is not a date.
+  show(QByteArray(json).replace("200", "100"));
   // prints: There is an issue with the bank 'Elm'. The account '100' is associated with the bank 'Oak' and cannot be used again.
-  open(QByteArray(json).replace("Goal", "Prêt"));
-  // prints: 'Prêt' is not a kind of account.
-  open(QByteArray(json).replace("200", "-1"));
-  // prints: -1 is not an account number.
 }
