@@ -6,6 +6,14 @@ static_assert(!std::is_convertible_v<std::map<BankName, Bank>, BankMap>);
 static_assert(noexcept(std::declval<BankMap const&>().hasBank(BankName())));
 static_assert(std::ranges::sized_range<BankMap>);
 
+// The comparisons have names, which programs pass on.
+template <typename T>
+using Comparison = bool (*)(T const&, T const&);
+[[maybe_unused]] static constexpr std::tuple<Comparison<BankName>, Comparison<Bank>,
+                                             Comparison<BankMap>, Comparison<BankMap>>
+    named{&orv::banking::operator!=, &orv::banking::operator!=, &orv::banking::operator!=,
+          &orv::banking::operator== };
+
 namespace {
 
 BankName const none("None");
