@@ -31,7 +31,10 @@ Bank::Bank(BankName name, std::map<accounting::AccountNumber, BankAccountTypes> 
            bool isClosed)
     : accounts_(std::move(accounts)), isClosed_(isClosed), name_(std::move(name))
 {
-  static_cast<void>(BankName(name_.institution())); // refuses the empty name
+  if (name_.isEmpty()) {
+    throw BankError(BankName(),
+                    QObject::tr("The name of a financial institution cannot be empty."));
+  }
   auto const anyAccount = [this](auto const& isRefused) {
     return std::any_of(accounts_.begin(), accounts_.end(), isRefused);
   };

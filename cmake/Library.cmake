@@ -5,25 +5,18 @@
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 
-# orv_library(<package>
-#   DESCRIPTION <text>               in one line
+# orv_library(<package>              builds a library
 #   TARGET <namespace>::<name>       the name that a consumer links
 #   VERSION <x.y.z>                  soname and package compatibility are <x.y>
 #   FOLDER <folder>                  the folder of the headers, as a consumer includes them
 #   INCLUDE_ROOT <dir>               the folder that holds <folder>
 #   HEADERS <file>... SOURCES <file>... [PRIVATE_HEADERS <file>...]
-#   REQUIRES <package> <version> <target>...    public dependencies, three words each
-#   [TRANSLATIONS_DIR <dir>])        the full path where the translations of its texts are installed
+#   LINK_LIBRARIES <target>...)      what a consumer links too
 function(orv_library package)
   cmake_parse_arguments(PARSE_ARGV 1 ARG ""
-    "DESCRIPTION;TARGET;VERSION;FOLDER;INCLUDE_ROOT;TRANSLATIONS_DIR"
-    "HEADERS;PRIVATE_HEADERS;SOURCES;REQUIRES")
-  string(REPLACE "::" ";" target_words "${ARG_TARGET}")
-  list(GET target_words 0 namespace)
-  list(GET target_words 1 export_name)
+    "TARGET;VERSION;FOLDER;INCLUDE_ROOT" "HEADERS;PRIVATE_HEADERS;SOURCES;LINK_LIBRARIES")
+  string(REGEX REPLACE ".*::" "" export_name "${ARG_TARGET}")
   string(REGEX MATCH "^[0-9]+\\.[0-9]+" abi_version "${ARG_VERSION}")
-  string(REPLACE "-" "_" macro_base "${package}")
-  string(TOUPPER "${macro_base}" macro_base)
 
   add_library(${package})
   add_library(${ARG_TARGET} ALIAS ${package})
@@ -40,11 +33,10 @@ function(orv_library package)
     VISIBILITY_INLINES_HIDDEN ON)
 
   set(export_header "${CMAKE_CURRENT_BINARY_DIR}/include/${ARG_FOLDER}/Export.hpp")
+  orv_macro_base(macro_base ${package})
   generate_export_header(${package} BASE_NAME ${macro_base} EXPORT_FILE_NAME ${export_header})
-  set(pc_definitions "")
   if(NOT BUILD_SHARED_LIBS)
     target_compile_definitions(${package} PUBLIC ${macro_base}_STATIC_DEFINE)
-    set(pc_definitions "-D${macro_base}_STATIC_DEFINE")
   elseif(UNIX AND NOT APPLE)
     set(symbols "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/exported-symbols.map")
     target_link_options(${package} PRIVATE "LINKER:--version-script,${symbols}")
@@ -61,24 +53,31 @@ function(orv_library package)
       FILE_SET HEADERS BASE_DIRS "${ARG_INCLUDE_ROOT}" FILES ${ARG_HEADERS}
       FILE_SET generated_headers TYPE HEADERS
         BASE_DIRS "${CMAKE_CURRENT_BINARY_DIR}/include" FILES ${export_header})
-  set(config_dependencies "")
-  set(pc_requires "")
-  while(ARG_REQUIRES)
-    list(POP_FRONT ARG_REQUIRES required_package required_version required_target)
-    target_link_libraries(${package} PUBLIC ${required_target})
-    if(required_package STREQUAL "Qt6")
-      string(APPEND config_dependencies
-        "find_dependency(Qt6 ${required_version} COMPONENTS Core)\n")
-      list(APPEND pc_requires "Qt6Core >= ${required_version}")
-    else()
-      string(APPEND config_dependencies "find_dependency(${required_package} ${required_version} "
-        "HINTS \"\${CMAKE_CURRENT_LIST_DIR}/..\")\n")
-      list(APPEND pc_requires "${required_package} >= ${required_version}")
-    endif()
-  endwhile()
-  list(JOIN pc_requires ", " pc_requires)
+  target_link_libraries(${package} PUBLIC ${ARG_LINK_LIBRARIES})
+  # A change of a central header is compiled sooner. A host is not to wait for what it compiles once.
+  if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_UNITY_BUILD)
+    target_precompile_headers(${package} PRIVATE
+      <QDebug> <QObject> <map> <optional> <set> <sstream>)
+  endif()
+endfunction()
+
+# orv_install(<package>              installs a library of orv_library, where that is wanted
+#   DESCRIPTION <text>               in one line
+#   NAMESPACE <namespace>            of the name that a consumer links
+#   FIND_DEPENDENCIES <line>...      how the CMake package finds what it stands on
+#   PC_REQUIRES <text>               the same for pkg-config
+#   [TRANSLATIONS_DIR <dir>])        the full path where the translations of its texts are installed
+function(orv_install package)
   if(NOT ORV_BANKING_INSTALL)
     return()
+  endif()
+  cmake_parse_arguments(PARSE_ARGV 1 ARG ""
+    "DESCRIPTION;NAMESPACE;PC_REQUIRES;TRANSLATIONS_DIR" "FIND_DEPENDENCIES")
+  get_target_property(version ${package} VERSION)
+  orv_macro_base(macro_base ${package})
+  set(pc_definitions "")
+  if(NOT BUILD_SHARED_LIBS)
+    set(pc_definitions "-D${macro_base}_STATIC_DEFINE")
   endif()
 
   # All paths are relative to the prefix, also where the user gives absolute ones.
@@ -91,12 +90,12 @@ function(orv_library package)
   set(pc_variables "")
   if(ARG_TRANSLATIONS_DIR)
     file(RELATIVE_PATH translations_dir "${prefix}" "${ARG_TRANSLATIONS_DIR}")
-    set(config_variables "set(${macro_base}_TRANSLATIONS_DIR "
-      "\"\${PACKAGE_PREFIX_DIR}/${translations_dir}\")\n")
-    list(JOIN config_variables "" config_variables)
+    set(config_variables
+      "set(${macro_base}_TRANSLATIONS_DIR \"\${PACKAGE_PREFIX_DIR}/${translations_dir}\")\n")
     set(pc_variables "translationsdir=\${prefix}/${translations_dir}\n")
   endif()
 
+  list(JOIN ARG_FIND_DEPENDENCIES "\n" find_dependencies)
   set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/${package}")
   set(template_dir "${CMAKE_CURRENT_FUNCTION_LIST_DIR}")
   configure_package_config_file(
@@ -104,7 +103,7 @@ function(orv_library package)
     INSTALL_DESTINATION ${package_dir}
     NO_SET_AND_CHECK_MACRO)
   write_basic_package_version_file(${package}-config-version.cmake
-    VERSION ${ARG_VERSION} COMPATIBILITY SameMinorVersion)
+    VERSION ${version} COMPATIBILITY SameMinorVersion)
   configure_file("${template_dir}/package.pc.in" ${package}.pc @ONLY)
 
   install(TARGETS ${package} EXPORT ${package}
@@ -114,7 +113,7 @@ function(orv_library package)
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
     FILE_SET HEADERS DESTINATION ${includedir} COMPONENT Development
     FILE_SET generated_headers DESTINATION ${includedir} COMPONENT Development)
-  install(EXPORT ${package} FILE ${package}-targets.cmake NAMESPACE ${namespace}::
+  install(EXPORT ${package} FILE ${package}-targets.cmake NAMESPACE ${ARG_NAMESPACE}::
     DESTINATION ${package_dir} COMPONENT Development)
   install(
     FILES
@@ -123,4 +122,11 @@ function(orv_library package)
     DESTINATION ${package_dir} COMPONENT Development)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+endfunction()
+
+# The beginning of the names of a package's macros and variables.
+function(orv_macro_base variable package)
+  string(MAKE_C_IDENTIFIER "${package}" base)
+  string(TOUPPER "${base}" base)
+  set(${variable} "${base}" PARENT_SCOPE)
 endfunction()
