@@ -2,9 +2,10 @@
 
 using orv::foundation::LocaleAware;
 
-TEST(BankAccount, IsPresentedAndWritten)
+TEST(BankAccount, IsShownInTheUsersLanguageExceptForItsName)
 {
-  QLocale::setDefault(QLocale("de_DE")); // which groups digits, but not those of account numbers
+  ScopedLocale const german(
+      QLocale("de_DE")); // which groups digits, but not those of account numbers
   BankAccount const account{BankName("É %1 %2"), {AccountNumber(12345), CreditCard}};
   EXPECT_EQ(presentationText(BankAccount{}, LocaleAware::No), ": 0 (Unknown)");
 
@@ -21,5 +22,4 @@ TEST(BankAccount, IsPresentedAndWritten)
   EXPECT_EQ(presentationText(account, LocaleAware{2}), "É %1 %2: <Karte %1|12345>");
   expectWritten(account, "Bank (Financial Institution Name: (É %1 %2)), Account Type (Bank Account "
                          "Number (12345), Bank Account Type (Karte %1))");
-  QLocale::setDefault(QLocale::c());
 }

@@ -41,7 +41,7 @@ TEST(BankAccountTypes, HaveTextsAndClasses)
   }
 }
 
-TEST(BankAccountTypes, AreRecognisedInPlainTextFirstAndInOneOrder)
+TEST(BankAccountTypes, AreReadFromUntranslatedTextsFirst)
 {
   ScopedTranslator const toLoan([](auto const&) { return "Loan"; });
   EXPECT_EQ(toBankAccountTypes("Loan"), Loan);
@@ -54,10 +54,10 @@ TEST(BankAccountTypes, AreRecognisedInPlainTextFirstAndInOneOrder)
   }
 }
 
-#ifdef ORV_BANKING_TRANSLATIONS // where they are built
+#ifdef TRANSLATIONS_FOLDER // where they are built
 TEST(BankAccountTypes, AreReadBackInEachLanguage)
 {
-  auto const files = QDir(ORV_BANKING_TRANSLATIONS).entryInfoList({"*.qm"});
+  auto const files = QDir(TRANSLATIONS_FOLDER).entryInfoList({"*.qm"});
   EXPECT_GE(files.size(), 3);
   for (auto const& file : files) {
     QTranslator translator;
@@ -72,7 +72,7 @@ TEST(BankAccountTypes, AreReadBackInEachLanguage)
 #endif
 
 // The errors are for the programmer: they are not translated.
-TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
+TEST(BankAccountTypes, RefuseOtherTextsAndValues)
 {
   ScopedTranslator const translator;
   QString const name(typeid(BankAccountTypes).name());
@@ -98,7 +98,7 @@ TEST(BankAccountTypes, AreNotMadeOfOtherTextsAndValues)
 }
 
 // A debug stream then shows nothing, a standard stream what comes before the kind.
-TEST(BankAccountTypes, OfNoKindAreHeldAndComparedButNotWritten)
+TEST(BankAccountTypes, OutsideTheEnumerationCanBeHeldButNotWritten)
 {
   BankAccount const account{pine, {hundred, noKind}};
   QString const text("Bank (Financial Institution Name: (Pine)), Account Type (Bank Account Number "
@@ -111,7 +111,8 @@ TEST(BankAccountTypes, OfNoKindAreHeldAndComparedButNotWritten)
   Bank const bank(pine, {{AccountNumber(9), Loan}, {hundred, noKind}}, false);
   EXPECT_EQ(writtenBeforeKind(bank),
             "Bank: (Financial Institution Name: (Pine)), Account Numbers: (9=>Loan, 100=>");
-  EXPECT_NE(bank, Bank(pine, {{AccountNumber(9), Loan}, {hundred, BankAccountTypes{-1}}}, false));
+  EXPECT_FALSE(bank ==
+               Bank(pine, {{AccountNumber(9), Loan}, {hundred, BankAccountTypes{-1}}}, false));
   BankMap map({{pine, Bank(pine, {}, false)}});
   map.update(bank);
   EXPECT_EQ(map, BankMap({{pine, bank}}));

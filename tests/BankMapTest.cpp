@@ -1,19 +1,5 @@
 #include "support/Refusal.hpp"
 
-#include <ranges>
-
-static_assert(!std::is_convertible_v<std::map<BankName, Bank>, BankMap>);
-static_assert(noexcept(std::declval<BankMap const&>().hasBank(BankName())));
-static_assert(std::ranges::sized_range<BankMap>);
-
-// The comparisons have names, which programs pass on.
-template <typename T>
-using Comparison = bool (*)(T const&, T const&);
-[[maybe_unused]] static constexpr std::tuple<Comparison<BankName>, Comparison<Bank>,
-                                             Comparison<BankMap>, Comparison<BankMap>>
-    named{&orv::banking::operator!=, &orv::banking::operator!=, &orv::banking::operator!=,
-          &orv::banking::operator== };
-
 namespace {
 
 BankName const none("None");
@@ -35,21 +21,22 @@ BankMap banks(Bank const& underElm, Bank const& underOak, Bank const& underPine)
 
 } // namespace
 
-// Where two rules are broken, the first is told, and of several numbers and banks those that count.
+// Where a row breaks two rules, the first one is reported, and of several numbers and banks those that
+// the headers name.
 TEST(BankMap, RefusesToBreakItsRules)
 {
-  auto const map = banks(bank(elm, 9), bank(oak, 100, 300), closed(pine, 3));
-  EXPECT_REFUSED(map, banks(bank(oak, 9), bank(oak, 9), {}), elm,
+  auto map = banks(bank(elm, 9), bank(oak, 100, 300), closed(pine, 3));
+  EXPECT_REFUSAL(banks(bank(oak, 9), bank(oak, 9), {}), elm,
                  "The key name does not match the value name, Oak %1.");
-  EXPECT_REFUSED(map, banks(bank(elm), bank(oak), closed(elm)), pine,
+  EXPECT_REFUSAL(banks(bank(elm), bank(oak), closed(elm)), pine,
                  "The key name does not match the value name, Elm  € %2.");
-  EXPECT_REFUSED(map, banks(bank(elm, 9, 100), bank(pine, 100), bank(pine, 9)), elm,
+  EXPECT_REFUSAL(banks(bank(elm, 9, 100), bank(pine, 100), bank(pine, 9)), elm,
                  "The account '9' is associated with the bank 'Pine' and cannot be used again.");
-  EXPECT_REFUSED(
-      map, banks(bank(elm, 100), bank(oak, 100), bank(pine, 100)), elm,
+  EXPECT_REFUSAL(
+      banks(bank(elm, 100), bank(oak, 100), bank(pine, 100)), elm,
       "The account '100' is associated with the bank 'Oak %1' and cannot be used again.");
-  EXPECT_REFUSED(map, map.bank(none), none, "Failed to locate a bank by that name.");
-  EXPECT_REFUSED(map, map.bank({}), {}, "Failed to locate a bank by that name.");
+  EXPECT_REFUSAL(map.bank(none), none, "Failed to locate a bank by that name.");
+  EXPECT_REFUSAL(map.bank({}), {}, "Failed to locate a bank by that name.");
   EXPECT_REFUSED(map, map.close(none), none, "Cannot close a bank that does not exist.");
   EXPECT_REFUSED(map, map.open(none), none, "Cannot open a bank that does not exist.");
   EXPECT_REFUSED(map, map.add(none, hundred, noKind), none,
@@ -80,12 +67,12 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.update(bank(elm, 3, 100)), elm,
                  "Cannot update the account number, 3, as the bank 'Pine' is already associated "
                  "with that number.");
-  BankMap const nameless({{BankName(), Bank()}, {elm, bank(elm)}});
+  BankMap nameless({{BankName(), Bank()}, {elm, bank(elm)}});
   EXPECT_REFUSED(nameless, nameless.rename(elm, {}), elm,
                  "Cannot rename to '' as it already exists.");
   EXPECT_REFUSED(nameless, nameless.rename({}, {}), {},
                  "Cannot rename to '' as it already exists.");
-  // What is left to a bank, it logs.
+  // What the registry leaves to the bank is logged.
   EXPECT_REFUSED(map, map.close(pine), pine, "Cannot close a bank that is already closed.", 1);
   EXPECT_REFUSED(map, map.remove(elm, hundred), elm,
                  "The account '100' is not associated with the financial institution.", 1);
@@ -93,7 +80,7 @@ TEST(BankMap, RefusesToBreakItsRules)
                  "Cannot add an account type of a financial institution that is unknown.", 1);
 }
 
-TEST(BankMap, TakesNamesAndNumbersOfItsOwn)
+TEST(BankMap, AcceptsArgumentsThatReferIntoIt)
 {
   BankMap map({{elm, bank(elm, 9)}});
   auto const& held = map.bank(elm);
@@ -109,7 +96,7 @@ TEST(BankMap, TakesNamesAndNumbersOfItsOwn)
   EXPECT_EQ(map, BankMap());
 }
 
-TEST(BankMap, TellsItsBanksInNameOrder)
+TEST(BankMap, ListsAndWritesItsBanksInNameOrder)
 {
   BankName const small("elm  € %2");
   BankMap const map({{oak, bank(oak)}, {small, closed(small)}, {elm, bank(elm, 3)}, {{}, Bank()}});
@@ -122,4 +109,14 @@ TEST(BankMap, TellsItsBanksInNameOrder)
   std::ostringstream stream;
   stream << BankMap() << false;
   EXPECT_EQ(stream.str(), "Bank Map ()0");
+}
+
+TEST(BankMap, EqualsOneOfEqualBanksUnderTheSameNames)
+{
+  BankMap const one({{elm, bank(elm, 9)}});
+  EXPECT_EQ(one, BankMap({{elm, bank(elm, 9)}}));
+  expectUnequal(one, BankMap());
+  expectUnequal(one, BankMap({{elm, bank(elm, 9)}, {oak, bank(oak)}}));
+  expectUnequal(one, BankMap({{elm, closed(elm, 9)}}));
+  expectUnequal(one, BankMap({{BankName("elm"), bank(BankName("elm"), 9)}}));
 }

@@ -6,26 +6,26 @@
 
 using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
-// Where two rules are broken, the first is told.
+// Where a row breaks two rules, the first one is reported.
 TEST(Bank, RefusesToBreakItsRules)
 {
   Accounts const invalid{{AccountNumber(), Loan}, {hundred, Unknown}};
   Accounts const unknown{{AccountNumber(1), Loan}, {hundred, Unknown}};
-  Bank const bank(elm, {}, true);
-  Bank const open;
-  EXPECT_REFUSED(bank, Bank({}, invalid, true), {},
+  Bank bank(elm, {}, true);
+  Bank open;
+  EXPECT_REFUSAL(Bank({}, invalid, true), {},
                  "The name of a financial institution cannot be empty.");
-  EXPECT_REFUSED(bank, Bank(elm, invalid, true), elm,
+  EXPECT_REFUSAL(Bank(elm, invalid, true), elm,
                  "The bank account number of a financial institution cannot be invalid.");
-  EXPECT_REFUSED(bank, Bank(elm, unknown, true), elm,
+  EXPECT_REFUSAL(Bank(elm, unknown, true), elm,
                  "The bank account type of a financial institution cannot be unknown.");
   EXPECT_REFUSED(bank, bank.close(), elm, "Cannot close a bank that is already closed.", 1);
-  Bank const odd(BankName("<É>&  \n"), {}, true);
+  Bank odd(BankName("<É>&  \n"), {}, true);
   EXPECT_REFUSED(odd, odd.close(), odd.name(), "Cannot close a bank that is already closed.", 1);
-  QLocale::setDefault(QLocale("de_DE"));
+  ScopedLocale const german(
+      QLocale("de_DE")); // which groups digits, but not those of account numbers
   EXPECT_REFUSED(bank, bank.remove(AccountNumber(4294967295U)), elm,
                  "The account '4294967295' is not associated with the financial institution.", 1);
-  QLocale::setDefault(QLocale::c());
   EXPECT_REFUSED(open, open.open(), {}, "Cannot open a bank that is already opened.", 1);
   EXPECT_REFUSED(bank, bank.add(AccountNumber(), Unknown), elm,
                  "Cannot add an account number of a financial institution that is invalid.", 1);
@@ -35,9 +35,9 @@ TEST(Bank, RefusesToBreakItsRules)
                  "The account '100' is not associated with the financial institution.", 1);
 }
 
-// In English but for the kinds, with the bank as it is before the change, as the page for users
-// quotes them. A value that is no kind ends a message early.
-TEST(Bank, LogsWhatItIsAsked)
+// The messages are in English except for the kinds, and quoted in the page for users. A kind outside
+// the enumeration ends a message early.
+TEST(Bank, LogsEachCallBeforeItsChange)
 {
   ScopedTranslator const translator;
   Bank bank(BankName("Elm"), {{hundred, Loan}}, true);
@@ -70,7 +70,7 @@ TEST(Bank, LogsWhatItIsAsked)
   EXPECT_THAT(quotes, testing::UnorderedElementsAreArray(messages.replaceInStrings("~", "")));
 }
 
-TEST(Bank, WritesItsAccountsInAnyFormatAndStaysInBoolalpha)
+TEST(Bank, WritesItsAccountsInOrderAndLeavesBoolalphaSet)
 {
   AccountNumber const largest(4294967295U);
   expectWritten(Bank(elm, {{largest, Loan}, {AccountNumber(9), Goal}, {hundred, Loan}}, true),
@@ -82,7 +82,7 @@ TEST(Bank, WritesItsAccountsInAnyFormatAndStaysInBoolalpha)
                           "false)false");
 }
 
-TEST(Bank, ChangesOneAccountThoughItIsClosed)
+TEST(Bank, AddsAndRemovesAccountsWhileClosed)
 {
   Bank bank(elm, {{AccountNumber(1), Loan}, {hundred, Loan}, {AccountNumber(200), Loan}}, true);
   bank.add(hundred, Goal);
@@ -95,8 +95,13 @@ TEST(Bank, ChangesOneAccountThoughItIsClosed)
 TEST(Bank, EqualsOneOfTheSameNameAccountsAndState)
 {
   Accounts const loan{{hundred, Loan}};
-  EXPECT_NE(Bank(elm, loan, true), Bank(oak, loan, true));
-  EXPECT_NE(Bank(elm, loan, true), Bank(elm, {{hundred, Goal}}, true));
-  EXPECT_NE(Bank(elm, loan, true), Bank(elm, {{AccountNumber(1), Loan}}, true));
-  EXPECT_NE(Bank(elm, loan, true), Bank(elm, loan, false));
+  Bank const bank(elm, loan, true);
+  EXPECT_EQ(bank, Bank(elm, loan, true));
+  expectUnequal(bank, Bank(oak, loan, true));
+  expectUnequal(bank, Bank(BankName(elm.institution().toLower()), loan, true));
+  expectUnequal(bank, Bank(elm, {{hundred, Goal}}, true));
+  expectUnequal(bank, Bank(elm, {{AccountNumber(1), Loan}}, true));
+  expectUnequal(bank, Bank(elm, {}, true)); // whose accounts begin the other's
+  expectUnequal(bank, Bank(elm, {{hundred, Loan}, {AccountNumber(200), Loan}}, true));
+  expectUnequal(bank, Bank(elm, loan, false));
 }

@@ -2,29 +2,25 @@
 
 #include <foundation/Date.hpp>
 
-static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount>);
-static_assert(std::is_nothrow_move_constructible_v<ReconciledBankAccount>);
-
 static BankAccount const chequeing{elm, {hundred, Chequeing}};
 
-TEST(ReconciledBankAccount, RefusesTheEarlierDate)
+TEST(ReconciledBankAccount, RefusesAnEarlierDate)
 {
-  ReconciledBankAccount const account(chequeing, dollars, march);
+  ReconciledBankAccount account(chequeing, dollars, march);
   EXPECT_REFUSED(
       account, account.reconcile(march.addDays(-1), Money()), elm,
       "The last reconciled date, 2026-03-31, cannot be updated to be in the past, 2026-03-30.");
-  ReconciledBankAccount const nameless({}, dollars, march);
+  ReconciledBankAccount nameless({}, dollars, march);
   EXPECT_REFUSED(nameless, nameless.reconcile(QDate(), dollars), {},
                  "The last reconciled date, 2026-03-31, cannot be updated to be in the past, .");
-  QLocale::setDefault(QLocale("de_DE")); // which only the error follows
+  ScopedLocale const german(QLocale("de_DE")); // which only the error follows
   EXPECT_REFUSED(account, account.reconcile(QDate(), dollars), elm,
                  "The last reconciled date, " + orv::foundation::presentationText(march) +
                      ", cannot be updated to be in the past, .");
   EXPECT_TRUE(streamed(account).endsWith("Reconciled On: (2026-03-31)"));
-  QLocale::setDefault(QLocale::c());
 }
 
-TEST(ReconciledBankAccount, IsReconciledWithALaterDateInAnyCurrency)
+TEST(ReconciledBankAccount, AcceptsTheSameDateOrALaterOneInAnyCurrency)
 {
   ReconciledBankAccount account(chequeing, Currency("CAD"));
   auto const expectHeld = [&](Money const& balance, QString const& date) {
@@ -41,7 +37,7 @@ TEST(ReconciledBankAccount, IsReconciledWithALaterDateInAnyCurrency)
   }
 }
 
-TEST(ReconciledBankAccount, IsCopiedAndMovedWhole)
+TEST(ReconciledBankAccount, IsCopiedAndMovedWithAllItsFields)
 {
   ReconciledBankAccount const original(chequeing, dollars, march);
   auto const text = streamed(original);
@@ -88,7 +84,7 @@ TEST(ReconciledBalance, IsSortedAndSwappedWhateverItsCurrency)
   EXPECT_EQ(texts, QStringList({"3EUR", "5JPY", "7CAD", "9CAD"}));
 }
 
-TEST(ReconciledBalance, WritesItsFieldsWithoutQuotes)
+TEST(ReconciledBalance, IsWrittenInFiveParts)
 {
   auto const money = debugged(dollars);
   auto const date = debugged(march);

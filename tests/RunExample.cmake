@@ -1,17 +1,20 @@
 # Runs COMMAND, and fails unless it prints what the comments in SOURCE say.
-file(STRINGS "${SOURCE}" comments REGEX "^ *// prints: " ENCODING UTF-8)
-list(TRANSFORM comments REPLACE "^ *// prints: " "")
-list(JOIN comments "\n" expected)
-string(APPEND expected "\n")
-
+file(STRINGS "${SOURCE}" expected REGEX "^ *// prints: " ENCODING UTF-8)
+list(TRANSFORM expected REPLACE "^ *// prints: " "")
 execute_process(COMMAND ${COMMAND}
   OUTPUT_VARIABLE printed ERROR_VARIABLE printed COMMAND_ERROR_IS_FATAL ANY)
-# Line ends and the encoding of letters beyond ASCII are the system's.
-string(REPLACE "\r" "" printed "${printed}")
-string(REGEX REPLACE "[^\n -~]+" "?" comparable_expected "${expected}")
-string(REGEX REPLACE "[^\n -~]+" "?" comparable_printed "${printed}")
+string(REGEX REPLACE "\r|\n+$" "" printed "${printed}")
+string(REPLACE ";" "\\;" printed "${printed}")
+string(REPLACE "\n" ";" printed "${printed}")
 
-if(NOT comments OR NOT comparable_printed STREQUAL comparable_expected)
-  message("These lines were expected:\n${expected}\nThese were printed:\n${printed}")
-  message(FATAL_ERROR "The comments in ${SOURCE} say something else")
+foreach(line other IN ZIP_LISTS expected printed)
+  # The encoding of letters beyond ASCII is the system's.
+  string(REGEX REPLACE "[^ -~]+" "?" comparable "${line}")
+  string(REGEX REPLACE "[^ -~]+" "?" comparable_other "${other}")
+  if(NOT comparable STREQUAL comparable_other)
+    message(FATAL_ERROR "${SOURCE} says:\n${line}\nThis was printed:\n${other}")
+  endif()
+endforeach()
+if(NOT expected)
+  message(FATAL_ERROR "${SOURCE} has no comment \"prints:\"")
 endif()

@@ -8,8 +8,6 @@
 using orv::accounting::AccountTypes;
 
 static_assert(int(AccountTypes::Asset) == 1 && int(AccountTypes::Liability) == 4);
-static_assert(noexcept(std::declval<Money&>().assign(std::declval<Money>())));
-static_assert(!std::is_convertible_v<unsigned int, AccountNumber>);
 
 // The digits of a text in any script, as those of English.
 static QString digits(QString const& text)
@@ -23,7 +21,7 @@ static QString digits(QString const& text)
 }
 
 // Qt has no year 0, and no ISO form for years that do not have four digits.
-TEST(Date, IsWrittenInIsoFormAndShownAsTheLocaleDoes)
+TEST(Date, IsWrittenInIso8601AndShownWithAllDigitsOfTheYear)
 {
   using orv::foundation::presentationText;
   std::pair<QDate, QString> const dates[] = {{march, "2026-03-31"},
@@ -35,17 +33,15 @@ TEST(Date, IsWrittenInIsoFormAndShownAsTheLocaleDoes)
                                              {{}, ""}};
   for (auto const& [date, text] : dates) {
     EXPECT_EQ(presentationText(date), text);
-    QLocale::setDefault(QLocale("de_DE"));
+    ScopedLocale const german(QLocale("de_DE"));
     EXPECT_EQ(streamed(date), text);
-    QLocale::setDefault(QLocale::c());
   }
   for (auto const& locale :
        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
-    QLocale::setDefault(locale);
+    ScopedLocale const scoped(locale);
     EXPECT_TRUE(digits(presentationText(QDate(2125, 3, 31))).contains("2125"))
         << locale.name().toStdString();
   }
-  QLocale::setDefault(QLocale::c());
 }
 
 // Qt decides the rest, such as marks of direction. The system's own format of money may write a fraction
@@ -62,7 +58,7 @@ TEST(Money, IsShownExactlyInItsCurrency)
       {QLocale::c(), "CAD", std::numeric_limits<qint64>::min(), "-92233720368547758.08\u00a0CAD",
        "9223372036854775808"}};
   for (auto const& [locale, currency, minorUnits, part, expectedDigits] : amounts) {
-    QLocale::setDefault(locale);
+    ScopedLocale const scoped(locale);
     Money const money{Currency(currency), minorUnits};
     auto const text = presentationText(money);
     expectWritten(money, text);
@@ -70,4 +66,20 @@ TEST(Money, IsShownExactlyInItsCurrency)
     EXPECT_EQ(digits(text), expectedDigits);
   }
   EXPECT_EQ(streamed(Money()), "");
+}
+
+TEST(Money, EqualsOneOfTheSameAmountAndCurrency)
+{
+  Money const none(Currency("CAD"));
+  EXPECT_EQ(none, Money(Currency("CAD"), 0));
+  expectUnequal(none, Money(Currency("EUR")));
+  expectUnequal(none, Money());
+  expectUnequal(none, Money(Currency("CAD"), 1));
+}
+
+TEST(AccountNumber, IsWrittenInDecimalDigitsWhateverTheStream)
+{
+  QString text;
+  QDebug(&text).nospace() << Qt::hex << hundred;
+  EXPECT_EQ(text, "100");
 }

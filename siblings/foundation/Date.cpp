@@ -2,7 +2,6 @@
 
 #include <QDate>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QString>
 
 #include <cstdlib>
@@ -33,9 +32,11 @@ QString presentationText(QDate const& date)
   if (locale.language() == QLocale::C) {
     return isoText(date);
   }
-  static QRegularExpression const shortYear(QStringLiteral("(?<!y)yy(?!y)"));
-  return locale.toString(
-      date, locale.dateFormat(QLocale::ShortFormat).replace(shortYear, QStringLiteral("yyyy")));
+  auto format = locale.dateFormat(QLocale::ShortFormat);
+  if (!format.contains(QStringLiteral("yyyy"))) {
+    format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+  }
+  return locale.toString(date, format);
 }
 
 } // namespace orv::foundation

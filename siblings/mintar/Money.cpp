@@ -2,10 +2,11 @@
 
 #include <QDebug>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QString>
 
+#include <algorithm>
 #include <ostream>
+#include <string>
 
 namespace mintar {
 
@@ -26,15 +27,17 @@ QString magnitude(QLocale const& locale, qint64 minorUnits, int decimals)
 
 // How the locale arranges an amount (%1) and a currency symbol (%2). Qt formats only whole numbers
 // without rounding them to floating point, so one is formatted and taken out again: all from its
-// first digit to its last, as the formats of Windows and macOS write "1.00".
+// first digit to its last, as the formats of Windows and macOS write "1.00". A regular expression would
+// match nothing, without an error, if memory ran out.
 QString arrangement(QLocale const& locale, bool negative)
 {
-  static QRegularExpression const number(QStringLiteral("\\d(.*\\d)?"),
-                                         QRegularExpression::UseUnicodePropertiesOption);
   QString const symbol(QChar(0x00A4));
-  return locale.toCurrencyString(negative ? -1 : 1, symbol)
-      .replace(number, QStringLiteral("%1"))
-      .replace(symbol, QStringLiteral("%2"));
+  auto text = locale.toCurrencyString(negative ? -1 : 1, symbol).toStdU32String();
+  auto const isDigit = [](char32_t character) { return QChar::isDigit(character); };
+  auto const first = std::find_if(text.begin(), text.end(), isDigit);
+  auto const last = std::find_if(text.rbegin(), text.rend(), isDigit).base();
+  text.replace(first, last, U"%1");
+  return QString::fromStdU32String(text).replace(symbol, QStringLiteral("%2"));
 }
 
 QString symbolFor(QLocale const& locale, QString const& isoCode)

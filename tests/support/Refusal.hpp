@@ -51,25 +51,27 @@ void expectError(char const* file, int line, auto const& call, QString const& te
   expectError<std::logic_error>(                                                                   \
       __FILE__, __LINE__, [&] { static_cast<void>(call); }, text)
 
-/// Expects a call that changes the subject to throw an error of the bank with the message, in
-/// English and translated, to log so many messages each time, and to leave the subject as it was.
-void expectRefusal(char const* file, int line, auto const& subject, auto const& call,
-                   BankName const& bank, QString const& message, int logged = 0)
+/// Expects a call to throw an error of the bank with the message, in English and translated, and to
+/// log so many messages each time.
+void expectRefusal(char const* file, int line, auto const& call, BankName const& bank,
+                   QString const& message, int logged = 0)
 {
-  auto changed = subject;
   for (QString const mark : {"", "~"}) {
     ScopedTranslator const translator([&](auto const& text) { return mark + text; });
     auto const frame = mark + "There is an issue with the bank '%1'. " + mark + "%2";
     takeMessages();
-    expectError<BankError>(
-        file, line, [&] { call(changed); }, frame.arg(bank.institution(), message));
-    testing::ScopedTrace const trace(file, line, "");
-    EXPECT_EQ(takeMessages().size(), logged);
-    EXPECT_EQ(streamed(changed), streamed(subject));
+    expectError<BankError>(file, line, call, frame.arg(bank.institution(), message));
+    EXPECT_EQ(takeMessages().size(), logged) << file << ':' << line;
   }
 }
-/// `call` changes the variable `subject`.
-#define EXPECT_REFUSED(subject, call, ...)                                                         \
+#define EXPECT_REFUSAL(call, ...)                                                                  \
   expectRefusal(                                                                                   \
-      __FILE__, __LINE__, subject,                                                                 \
-      [&]([[maybe_unused]] auto& subject) { static_cast<void>(call); }, __VA_ARGS__)
+      __FILE__, __LINE__, [&] { static_cast<void>(call); }, __VA_ARGS__)
+
+/// Also expects the call to leave the subject as it was.
+#define EXPECT_REFUSED(subject, call, ...)                                                         \
+  do {                                                                                             \
+    auto const before = streamed(subject);                                                         \
+    EXPECT_REFUSAL(call, __VA_ARGS__);                                                             \
+    EXPECT_EQ(streamed(subject), before);                                                          \
+  } while (false)

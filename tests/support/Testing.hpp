@@ -28,11 +28,32 @@ inline BankAccountTypes const noKind{99}; // is not one of the enumerators
 inline QDate const march(2026, 3, 31);
 inline Money const dollars(Currency("CAD"), 1250);
 
-/// GoogleTest shows a QString as text.
+/// GoogleTest shows a QString as text, with the code of each character that looks like another or
+/// like nothing.
 inline void PrintTo(QString const& text, std::ostream* stream)
 {
-  *stream << '"' << text.toStdString() << '"';
+  *stream << '"';
+  for (auto const character : text.toStdU32String()) {
+    auto const isShown =
+        QChar::isPrint(character) && (character == U' ' || !QChar::isSpace(character));
+    *stream << (isShown ? QString::fromUcs4(&character, 1)
+                        : QStringLiteral("\\u{%1}").arg(QString::number(character, 16).toUpper()))
+                   .toStdString();
+  }
+  *stream << '"';
 }
+
+/// Makes a locale the default one until the end of the scope.
+class ScopedLocale
+{
+public:
+  explicit ScopedLocale(QLocale const& locale) { QLocale::setDefault(locale); }
+  ~ScopedLocale() { QLocale::setDefault(before_); }
+  Q_DISABLE_COPY_MOVE(ScopedLocale)
+
+private:
+  QLocale before_;
+};
 
 /// What the value writes to a standard stream in an unusual format, which stays.
 QString streamed(auto const& value)
@@ -54,6 +75,13 @@ QStringList debugged(auto const&... values)
   (QDebug(&text) << ... << values);
   (QDebug(&bareText).nospace().noquote() << ... << values);
   return {text, bareText};
+}
+
+/// Expects two values to differ, whichever stands first.
+void expectUnequal(auto const& lhs, auto const& rhs)
+{
+  EXPECT_TRUE(lhs != rhs && rhs != lhs) << streamed(lhs).toStdString();
+  EXPECT_FALSE(lhs == rhs || rhs == lhs) << streamed(lhs).toStdString();
 }
 
 /// Expects the text on a standard stream and, as one QString, on a debug stream.
