@@ -16,15 +16,9 @@ namespace orv::banking {
 /// Use it to describe a bank for a `BankMap`, or to change several things of one bank at once: copy
 /// it from the registry, change the copy, and pass that to `BankMap::update`, while both are open.
 ///
-/// **Rules.** No bank holds the invalid account number or an account of the kind `Unknown`. To
-/// close a closed bank and to open an open one are errors. A closed bank still adds and removes
-/// accounts. Only a default-constructed bank has no name; its calls work, with an empty name in
-/// messages.
-///
-/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
-///
-/// There is no order and no hash. Costs are those of a `std::map` of the accounts, but for
-/// `remove`.
+/// No bank holds the invalid account number or an account of the kind `Unknown`. A closed bank
+/// still adds and removes accounts. Only a default-constructed bank has no name; its calls work,
+/// with an empty name in messages. Calls except `remove` take as long as those of a `std::map`.
 ///
 /// \snippet snippets.cpp Bank
 class ORV_BANKING_EXPORT Bank
@@ -35,7 +29,7 @@ public:
 
   /// Creates a bank from its name, its accounts and its state. Nothing is logged.
   ///
-  /// \throws BankError if `name` is empty; the error's text says "the bank ''"
+  /// \throws BankError if `name` is empty
   /// \throws BankError if an account number is invalid
   /// \throws BankError if a kind is `Unknown`
   Bank(BankName name, std::map<accounting::AccountNumber, BankAccountTypes> accounts,
@@ -69,16 +63,14 @@ public:
 
   /// Adds an account, or changes its kind if the bank holds the number already. Logged.
   ///
-  /// \throws std::logic_error if `type` is not one of the enumerators; the log message then ends
-  ///         before the kind
+  /// \throws std::logic_error if `type` is not one of the enumerators
   /// \throws BankError if `number` is invalid
   /// \throws BankError if `type` is `Unknown`
   void add(accounting::AccountNumber const& number, BankAccountTypes type);
 
   /// Removes an account. Logged, with all accounts that the bank holds before.
   ///
-  /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators; the log
-  ///         message then ends before the bank
+  /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators
   /// \throws BankError if the bank does not hold `number`
   ///
   /// Complexity: linear in the number of accounts, because of the log message.
@@ -97,8 +89,7 @@ private:
 /// \relatesalso Bank
 ORV_BANKING_EXPORT bool operator==(Bank const& lhs, Bank const& rhs);
 
-/// Returns whether the names, the states or the accounts with their kinds differ.
-/// \relatesalso Bank
+/// Returns the opposite of `==`. \relatesalso Bank
 inline bool operator!=(Bank const& lhs, Bank const& rhs)
 {
   return !(lhs == rhs);
@@ -107,13 +98,11 @@ inline bool operator!=(Bank const& lhs, Bank const& rhs)
 /// Writes "Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
 /// Closed: false)".
 ///
-/// The unbalanced parenthesis is kept for programs that compare the text. The stream is left in
-/// `std::boolalpha` mode.
+/// The last parenthesis has no partner. The stream is left in `std::boolalpha` mode.
 /// \relatesalso Bank
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 
-/// Writes what `std::ostream <<` writes, as one `QString`.
-/// \relatesalso Bank
+/// Writes the same text as one `QString`. \relatesalso Bank
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, Bank const& bank);
 
 } // namespace orv::banking

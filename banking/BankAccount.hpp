@@ -12,10 +12,8 @@ namespace orv::banking {
 
 /// An account at a bank: the bank's name, the account number in the ledger, and the kind.
 ///
-/// Use it to show an account, or to say which account is meant. It is plain data: nothing is
-/// checked, no registry is asked, and there is no `==` and no hash.
-///
-/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
+/// It is plain data: nothing is checked, and no registry is asked. Use it to show an account, or to
+/// say which account is meant.
 ///
 /// \snippet snippets.cpp BankAccount
 struct BankAccount
@@ -40,8 +38,7 @@ struct BankAccount
 /// \relatesalso BankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccount const& account);
 
-/// Writes what `std::ostream <<` writes, as one `QString`.
-/// \relatesalso BankAccount
+/// Writes the same text as one `QString`. \relatesalso BankAccount
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccount const& account);
 
 } // namespace orv::banking

@@ -19,10 +19,8 @@ namespace orv::banking {
 /// The kinds of account that a bank holds, their texts, and their classes in the ledger.
 ///
 /// Show users `presentationText`. Store `toNonLocalisedText`, and read it back with
-/// `fromNonLocalisedText`.
-///
-/// A function that takes a kind throws `std::logic_error` if it is not one of the enumerators; see
-/// \ref conventions, in `BankError.hpp`.
+/// `fromNonLocalisedText`. A function that takes a kind throws `std::logic_error` if it is not one
+/// of the enumerators.
 ///
 /// \snippet snippets.cpp BankAccountTypes
 /// @{
@@ -44,8 +42,8 @@ enum class BankAccountTypes : std::int32_t
 /// Returns whether the kind is a liability: credit card or loan. False for `Unknown`.
 [[nodiscard]] ORV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
 
-/// Returns the class of the account in the ledger: `AccountTypes::Asset` or `Liability`, or zero for
-/// `Unknown`.
+/// Returns the class of the account in the ledger: `AccountTypes::Asset` or `Liability`, or zero
+/// for `Unknown`.
 [[nodiscard]] ORV_BANKING_EXPORT accounting::AccountTypes
 toAccountTypes(BankAccountTypes const& type);
 
@@ -55,13 +53,13 @@ toAccountTypes(BankAccountTypes const& type);
 /// Returns the untranslated text of the kind: "Unknown", "Chequeing", "Credit Card", "Loan",
 /// "Savings" or "Goal".
 ///
-/// It is the same in every locale. The string refers to static data; nothing is allocated.
+/// It is the same in every locale. Nothing is allocated.
 [[nodiscard]] ORV_BANKING_EXPORT QString toNonLocalisedText(BankAccountTypes const& type);
 
 /// Returns the kind that has this untranslated text, or nothing.
 ///
-/// The text must be equal letter for letter. It never depends on the user's language, so use it for
-/// what was stored. "Unknown" is the text of `Unknown`. Nothing is thrown.
+/// Use it for what was stored: it never depends on the user's language. The text must be equal
+/// letter for letter. "Unknown" is the text of `Unknown`. Nothing is thrown.
 [[nodiscard]] ORV_BANKING_EXPORT std::optional<BankAccountTypes>
 fromNonLocalisedText(QString const& text);
 
@@ -71,22 +69,20 @@ fromNonLocalisedText(QString const& text);
 /// wins over a translation, and of kinds with the same translation the first of `Chequeing`,
 /// `Goal`, `CreditCard`, `Loan`, `Savings` and `Unknown`.
 ///
-/// \throws std::logic_error if no kind has the text. Its text is in English, for the programmer:
-///         tell the user in words of your own
+/// \throws std::logic_error if no kind has the text; tell the user in words of your own
 [[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
 
 /// Writes the text of the kind in the user's language.
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankAccountTypes const& type);
 
-/// Writes what `std::ostream <<` writes, as one `QString`.
+/// Writes the same text as one `QString`.
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes const& type);
 
 /// @}
 
 /// An account number of the ledger and the kind of bank account that it stands for.
 ///
-/// Use it for an account whose bank is known. It is plain data: nothing is checked, and there is no
-/// `==`, no hash and no `QDebug <<`. See \ref conventions, in `BankError.hpp`.
+/// It is plain data: nothing is checked. Use it for an account whose bank is known.
 struct AccountNumberBankType
 {
   /// The number of the account in the ledger.
@@ -99,7 +95,7 @@ struct AccountNumberBankType
 /// Returns the number and the kind as a user reads them, such as "100 (Credit Card)".
 ///
 /// For `LocaleAware::No` the text of the kind is untranslated, for every other value it is in the
-/// user's language. For both, the translation arranges number and kind: do not store the whole.
+/// user's language. Do not store the text: its format is translated in both cases.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso AccountNumberBankType

@@ -27,9 +27,10 @@ Iterator holder(AccountNumber const& number, Iterator first, Iterator last)
                       [&](auto const& entry) { return entry.second.accounts().contains(number); });
 }
 
-// The account numbers that break a rule: those that several banks hold, and the invalid one. One pass
-// with a set of those seen takes as long as a copy of the map, as the set has its memory in few
-// pieces: in one for each number, it takes twice that. QSet ends the program if memory runs out.
+// The account numbers that break a rule: those that several banks hold, and the invalid one. One
+// pass with a set of those seen takes as long as a copy of the map, as the set has its memory in
+// few pieces: in one for each number, it takes twice that. QSet ends the program if memory runs
+// out.
 std::set<AccountNumber> refusedNumbers(std::map<BankName, Bank> const& banks)
 {
   std::size_t count = 0;

@@ -16,31 +16,28 @@ namespace orv::banking {
 
 /// The registry of all banks, in the order of their names.
 ///
-/// Use one for each set of books. Construct it from all banks that were stored, then change it call
-/// by call. It is a value: copy it, change the copy, and move that back if all went well.
+/// Use one for each set of books. Construct it from all banks that were stored, then change it. It
+/// is a value: copy it, change the copy, and move that back if everything succeeded.
 ///
 /// **Rules.** Each bank is registered under its own name, no bank holds the invalid account number,
-/// and no two banks hold the same account number. A name may be empty: one default-constructed bank
-/// can be registered, and is found under `BankName()`. The text of each error names the bank that
-/// is passed, and of `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an
-/// account number are passed on to the bank once the registry has checked its own rules: the bank
-/// logs them, and its rules apply too.
+/// and no two banks hold the same account number. One default-constructed bank can be registered,
+/// under the name `BankName()`. The text of each error names the bank that is passed, and of
+/// `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an account number first
+/// check the rules of the registry, then call the bank, which logs the call and checks its own
+/// rules.
 ///
 /// **Lifetime.** A reference or an iterator to a bank is valid until that bank is removed or
-/// renamed, or the registry is assigned to, moved, swapped or destroyed; an end iterator until one
-/// of these befalls the registry. After any other change, `update` included, it refers to the bank
-/// as it is then. `Bank::accounts` says how long iterators into the accounts are valid. Arguments
-/// may refer into the registry: `banks.remove(banks.bank(name).name())` is fine.
+/// renamed, or the registry is assigned to, moved, swapped or destroyed. After any other change it
+/// refers to the bank as it is then. An end iterator stays valid until the registry is assigned to,
+/// moved, swapped or destroyed. Arguments may refer into the registry:
+/// `banks.remove(banks.bank(n).name())`.
 ///
-/// **Threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`. A bank passed
-/// with `std::move` is moved from even if the call throws.
+/// **Complexity.** Numbers have no index: to find who holds one, the registry asks one bank after
+/// the other. B is the number of banks, N that of all accounts, A that of the accounts of the
+/// largest bank, and M that of the bank passed. A call without a complexity takes at most O(log B).
 ///
-/// There is no order, no hash and no `QDebug <<`.
-///
-/// Numbers have no index: to find who holds one, the registry asks bank after bank. In the
-/// complexities, B is the number of banks, N that of all accounts, A that of the accounts of the
-/// largest bank, and M that of the bank passed. A member function without a complexity takes at
-/// most O(log B).
+/// Threads, memory, languages, logs and the other conventions of all types are described in the
+/// page `conventions.md`, which is installed in `share/doc/orv-banking`.
 ///
 /// \snippet snippets.cpp BankMap
 class ORV_BANKING_EXPORT BankMap
@@ -62,13 +59,13 @@ public:
 
   /// Creates a registry of these banks, closed ones included.
   ///
-  /// Prefer it to repeated `add`: each `add` visits every bank. The banks are checked in the order
-  /// of their keys, the first one by all checks, then the next one.
+  /// Prefer it to repeated `add`, which visits every bank each time. The banks are checked in the
+  /// order of their keys. Each bank goes through all checks before the next.
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
-  /// \throws BankError if a bank holds the invalid number, which no `Bank` does
+  /// \throws BankError if a bank holds the invalid number, which `Bank` itself does not allow
   /// \throws BankError if a bank shares numbers with later banks; the error names it, the smallest
-  ///         of these numbers, and the next bank that holds that number
+  ///          of these numbers, and the next bank that holds that number
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
@@ -116,7 +113,7 @@ public:
   void open(BankName const& name);
 
   /// Adds an account to the bank of this name, or changes its kind if the bank holds the number
-  /// already. Logged unless one of the first two errors is thrown. The bank may be closed.
+  /// already. Logged unless one of the first two errors is thrown.
   ///
   /// \throws BankError if there is no such bank
   /// \throws BankError if another bank holds `number`; the error names that one too
@@ -127,8 +124,7 @@ public:
   /// Complexity: O(B log A).
   void add(BankName const& name, accounting::AccountNumber const& number, BankAccountTypes type);
 
-  /// Removes an account from the bank of this name. Logged if there is such a bank. The bank may be
-  /// closed.
+  /// Removes an account from the bank of this name. Logged if there is such a bank.
   ///
   /// \throws BankError if there is no such bank
   /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators
@@ -139,18 +135,15 @@ public:
 
   /// Adds a bank under its name. Not logged.
   ///
-  /// `add(Bank())` registers a bank under the empty name, and throws the second time. A bank after
-  /// a move is not `Bank()`: do not pass it.
-  ///
   /// \throws BankError if the bank is closed
   /// \throws BankError if a bank of its name is registered already
   /// \throws BankError if a registered bank holds one of its numbers; the error names the first
-  ///         such bank and the smallest number that the two share
+  ///          such bank and the smallest number that the two share
   ///
   /// Complexity: O(B M log A).
   void add(Bank bank);
 
-  /// Removes the bank of this name with all its accounts. Not logged. The bank may be closed.
+  /// Removes the bank of this name, open or closed, with all its accounts. Not logged.
   ///
   /// \throws BankError if there is no such bank
   ///
@@ -159,8 +152,8 @@ public:
 
   /// Renames a bank. Its accounts stay the same. Not logged.
   ///
-  /// What the program itself holds keeps the old name: each `BankAccount`, `ReconciledBankAccount`
-  /// and copy of the bank. To rename a bank to its own name is an error.
+  /// A `BankAccount`, `ReconciledBankAccount` or copy of the bank that the program holds keeps the
+  /// old name. Renaming a bank to its own name is an error.
   ///
   /// \throws BankError if there is no bank of the name `from`
   /// \throws BankError if there is a bank of the name `to`
@@ -178,7 +171,7 @@ public:
   /// \throws BankError if `bank` is closed
   /// \throws BankError if the registered bank is closed
   /// \throws BankError if another bank holds one of its numbers; the error names the smallest such
-  ///         number and its holder
+  ///          number and its holder
   ///
   /// Complexity: O(B M log A).
   void update(Bank bank);
@@ -191,8 +184,7 @@ private:
 /// \relatesalso BankMap
 ORV_BANKING_EXPORT bool operator==(BankMap const& lhs, BankMap const& rhs);
 
-/// Returns whether a bank of one registry has no equal in the other.
-/// \relatesalso BankMap
+/// Returns the opposite of `==`. \relatesalso BankMap
 inline bool operator!=(BankMap const& lhs, BankMap const& rhs)
 {
   return !(lhs == rhs);

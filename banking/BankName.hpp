@@ -17,13 +17,9 @@ namespace orv::banking {
 
 /// The name of a bank, by which programs and the registry of banks know it.
 ///
-/// Use it as a key, in maps and in hashes. Names are equal if their texts are equal, and are
-/// ordered by UTF-16 code unit, so "Zed" comes before "elm". The text is kept exactly as given:
-/// nothing is trimmed, folded or normalised.
-///
-/// **Rules.** A name created from a text is not blank. Only a default-constructed name is empty.
-///
-/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
+/// Use it as a key of maps and hashes. Names are compared by UTF-16 code unit, so "Zed" comes
+/// before "elm". The text is kept exactly as given: nothing is trimmed, folded or normalised. Only
+/// a default-constructed name is empty.
 ///
 /// \snippet snippets.cpp BankName
 class ORV_BANKING_EXPORT BankName
@@ -37,14 +33,13 @@ public:
   /// Blank means empty or only white space as `QChar::isSpace()` defines it: U+00A0 is white space,
   /// zero-width space (U+200B) and NUL are not.
   ///
-  /// \throws BankError (in `BankError.hpp`) if `institution` is blank; the error's text says "the
-  ///         bank ''"
+  /// \throws BankError (in `BankError.hpp`) if `institution` is blank
   explicit BankName(QString institution);
 
   /// Returns the text, exactly as it was given.
   [[nodiscard]] QString const& institution() const noexcept { return institution_; }
 
-  /// Returns whether the name is empty. A name created from a text is not.
+  /// Returns whether the name is empty.
   [[nodiscard]] bool isEmpty() const noexcept { return institution_.isEmpty(); }
 
   /// Compares the texts by UTF-16 code unit.
@@ -64,8 +59,7 @@ inline bool operator==(BankName const& lhs, BankName const& rhs) noexcept
   return lhs.institution() == rhs.institution();
 }
 
-/// Returns whether the texts differ.
-/// \relatesalso BankName
+/// Returns the opposite of `==`. \relatesalso BankName
 inline bool operator!=(BankName const& lhs, BankName const& rhs) noexcept
 {
   return !(lhs == rhs);
@@ -93,8 +87,7 @@ inline bool operator<(BankName const& lhs, BankName const& rhs) noexcept
 /// \relatesalso BankName
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, BankName const& name);
 
-/// Writes what `std::ostream <<` writes, as one `QString`.
-/// \relatesalso BankName
+/// Writes the same text as one `QString`. \relatesalso BankName
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankName const& name);
 
 } // namespace orv::banking

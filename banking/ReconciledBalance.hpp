@@ -12,9 +12,8 @@ namespace orv::banking {
 
 /// An account's balance on a date, for instance an entry of its history.
 ///
-/// It is plain data: nothing is checked, and there is no `==`, no hash and no `std::ostream <<`.
-///
-/// **Lifetime, threads, memory, state after a move.** See \ref conventions, in `BankError.hpp`.
+/// It is plain data: nothing is checked. Keep one for each account number to store what was
+/// reconciled last: the registry knows the bank and the kind of the account.
 ///
 /// \snippet snippets.cpp ReconciledBalance
 struct ReconciledBalance
@@ -28,8 +27,7 @@ struct ReconciledBalance
 
 /// Writes `Balance ( … ), Occurred On ( … )`, with what `QDebug <<` writes of the amount and date.
 ///
-/// The five parts are written one by one, each followed by a space unless the stream is told
-/// `nospace()`. If writing the amount throws, the first part has been written.
+/// The five parts are written one by one, each followed by a space unless `nospace()` is set.
 /// \relatesalso ReconciledBalance
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBalance const& balance);
 

@@ -15,27 +15,23 @@ namespace orv::banking {
 
 /// A bank account with the balance and the date of its last reconciliation.
 ///
-/// To reconcile an account is to record the balance that the bank reported for a date. An account
-/// is a value of its own, which no registry knows. If its bank is renamed, or its kind changed,
-/// replace it by one of the new `BankAccount`, its `balance()` and its `reconciledOn()`.
+/// To reconcile an account is to record the balance that the bank reported for a date. A
+/// reconciliation never moves back in time.
 ///
-/// **Rules.** A reconciliation never moves back in time.
-///
-/// **Lifetime, threads, memory.** See \ref conventions, in `BankError.hpp`.
-///
-/// **State after a move.** The date, the number and the kind are there; the rest is not to be read.
-///
-/// There is no `==`, no order and no hash.
+/// No registry knows this account, and it keeps its bank and kind if the registry changes. A
+/// program with a registry keeps a `ReconciledBalance` for each account number, and makes a
+/// `ReconciledBankAccount` only to call `reconcile`. A moved-from account still has its date,
+/// number and kind.
 ///
 /// \snippet snippets.cpp ReconciledBankAccount
 class ORV_BANKING_EXPORT ReconciledBankAccount
 {
 public:
-  /// Creates an account without a bank, an amount or a date; its number is invalid and its kind
-  /// `Unknown`.
+  /// Creates an account without a bank, an amount or a date. Its number is
+  /// `accounting::AccountNumber()` and its kind `Unknown`.
   ReconciledBankAccount() = default;
 
-  /// Creates an account that was last reconciled as given, or never if there is no date. Nothing is
+  /// Creates an account that was last reconciled as given, or never without a date. Nothing is
   /// checked.
   ReconciledBankAccount(BankAccount bankAccount, mintar::Money balance,
                         std::optional<QDate> reconciledOn);
@@ -43,18 +39,13 @@ public:
   /// Creates an account with the balance zero in this currency. It has never been reconciled.
   ReconciledBankAccount(BankAccount bankAccount, mintar::Currency const& currency);
 
-  /// Copies the account, its balance and its date.
+  /// @{
+  /// Copies or moves the account and its balance, and copies its date.
   ReconciledBankAccount(ReconciledBankAccount const& other) noexcept;
-
-  /// Moves the account and its balance, and copies its date.
   ReconciledBankAccount(ReconciledBankAccount&& other) noexcept;
-
-  /// Copies the account, its balance and its date.
   ReconciledBankAccount& operator=(ReconciledBankAccount const& other) noexcept;
-
-  /// Moves the account and its balance, and copies its date.
   ReconciledBankAccount& operator=(ReconciledBankAccount&& other) noexcept;
-
+  /// @}
   ~ReconciledBankAccount() = default;
 
   /// Returns the bank, the number and the kind of the account.
@@ -68,14 +59,13 @@ public:
 
   /// Records the balance that the bank reported for a date. Not logged.
   ///
-  /// The first reconciliation accepts any date, each further one the same date or a later one. An
-  /// invalid date is earlier than every valid date, and equal to itself.
+  /// The first reconciliation accepts any date, even an invalid one. Each further one accepts the
+  /// same date or a later one. An invalid date is earlier than every valid date.
   ///
-  /// \throws BankError if `date` is earlier than the last date; its text gives the last date, then
-  ///         `date`, of which an invalid one is empty: "… cannot be updated to be in the past, ."
+  /// \throws BankError if `date` is earlier than the last date
   ///
-  /// The balance may be in another currency than the last one. If an installed money library refuses
-  /// to assign it, its error passes through, and the account is unchanged.
+  /// The balance may be in another currency than the last one. If an installed money library
+  /// refuses to assign it, its error passes through, and the account is unchanged.
   void reconcile(QDate const& date, mintar::Money const& balance);
 
 private:
@@ -86,14 +76,13 @@ private:
 
 /// Writes "Bank Account: (…), Balance: (…) Reconciled On: (2026-10-31)".
 ///
-/// The account is what `<<` writes of it, the balance as the user's locale shows it, the date in
-/// ISO 8601 or `<optional-value-not-set>`.
+/// The balance is written as the user's locale shows it, the date in ISO 8601 or as
+/// `<optional-value-not-set>`.
 /// \relatesalso ReconciledBankAccount
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream,
                                             ReconciledBankAccount const& account);
 
-/// Writes what `std::ostream <<` writes, as one `QString`.
-/// \relatesalso ReconciledBankAccount
+/// Writes the same text as one `QString`. \relatesalso ReconciledBankAccount
 ORV_BANKING_EXPORT QDebug operator<<(QDebug debug, ReconciledBankAccount const& account);
 
 } // namespace orv::banking

@@ -21,15 +21,12 @@ using orv::accounting::AccountNumber;
 
 namespace {
 
-//! [Types]
 struct Books
 {
   BankMap banks;
   std::map<AccountNumber, ReconciledBalance> balances; // of the accounts that have been reconciled
 };
-//! [Types]
 
-//! [Save]
 QByteArray toJson(Books const& books)
 {
   QJsonArray banks;
@@ -59,9 +56,7 @@ bool save(Books const& books, QString const& fileName)
   auto const json = toJson(books);
   return file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit();
 }
-//! [Save]
 
-//! [Read a value]
 // What is wrong with a file, for the user.
 class LoadError : public std::runtime_error
 {
@@ -125,9 +120,7 @@ QDate date(QJsonValue const& object)
   }
   return date;
 }
-//! [Read a value]
 
-//! [Load]
 Bank toBank(QJsonValue const& saved)
 {
   std::map<AccountNumber, BankAccountTypes> accounts;
@@ -177,9 +170,7 @@ Books load(QString const& fileName)
   }
   return fromJson(file.readAll());
 }
-//! [Load]
 
-//! [Catch]
 // Shows how many banks there are, or why they cannot be loaded. A program that goes on in spite of an error
 // must not save to the same file: that would replace the user's books.
 void show(QByteArray const& json)
@@ -192,7 +183,6 @@ void show(QByteArray const& json)
     qInfo().noquote() << error.what();
   }
 }
-//! [Catch]
 
 } // namespace
 

@@ -21,8 +21,8 @@ BankMap banks(Bank const& underElm, Bank const& underOak, Bank const& underPine)
 
 } // namespace
 
-// Where a row breaks two rules, the first one is reported, and of several numbers and banks those that
-// the headers name.
+// Where a row breaks two rules, the first one is reported, and of several numbers and banks those
+// that the headers name.
 TEST(BankMap, RefusesToBreakItsRules)
 {
   auto map = banks(bank(elm, 9), bank(oak, 100, 300), closed(pine, 3));

@@ -35,8 +35,8 @@ TEST(Bank, RefusesToBreakItsRules)
                  "The account '100' is not associated with the financial institution.", 1);
 }
 
-// The messages are in English except for the kinds, and quoted in the page for users. A kind outside
-// the enumeration ends a message early.
+// The messages are in English except for the kinds, and quoted in the page for users. A kind
+// outside the enumeration ends a message early.
 TEST(Bank, LogsEachCallBeforeItsChange)
 {
   ScopedTranslator const translator;

@@ -97,8 +97,8 @@ QString outcome(std::function<void(Books&)> const& operation)
 
 } // namespace
 
-// Either nothing changes, or all is as if there were memory: if it stays full, and if one allocation alone
-// fails.
+// Either nothing changes, or all is as if there were memory: if it stays full, and if one
+// allocation alone fails.
 TEST(Memory, FullLeavesEverythingUnchangedOrDone)
 {
   qInstallMessageHandler([](auto, auto const&, auto const&) {});

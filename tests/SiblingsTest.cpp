@@ -44,8 +44,8 @@ TEST(Date, IsWrittenInIso8601AndShownWithAllDigitsOfTheYear)
   }
 }
 
-// Qt decides the rest, such as marks of direction. The system's own format of money may write a fraction
-// even of a whole number, as Windows' does.
+// Qt decides the rest, such as marks of direction. The system's own format of money may write a
+// fraction even of a whole number, as Windows' does.
 TEST(Money, IsShownExactlyInItsCurrency)
 {
   std::tuple<QLocale, char const*, qint64, QString, QString> const amounts[] = {

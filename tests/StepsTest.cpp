@@ -160,8 +160,8 @@ QString difference(BankMap& map, Model& model, auto const& change, qsizetype log
                       "\nafter:  " + streamed(map);
 }
 
-// Makes a registry of drawn banks, and then so many drawn changes. Returns the first change after which
-// the registry is not as the model, if any.
+// Makes a registry of drawn banks, and then so many drawn changes. Returns the first change after
+// which the registry is not as the model, if any.
 QString takeSteps(unsigned int changes, Draw const& draw, Bounds const& bounds = {})
 {
   std::map<BankName, Bank> banks;

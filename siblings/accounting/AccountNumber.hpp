@@ -12,7 +12,8 @@ namespace orv::accounting {
 
 /// The program's own number of an account in its ledger, not the one that a bank uses.
 ///
-/// Numbers are equal if their integers are equal, and are ordered by their integers. There is no hash.
+/// Numbers are equal if their integers are equal, and are ordered by their integers. There is no
+/// hash.
 class ORV_ACCOUNTING_EXPORT AccountNumber
 {
 public:

@@ -27,8 +27,8 @@ QString magnitude(QLocale const& locale, qint64 minorUnits, int decimals)
 
 // How the locale arranges an amount (%1) and a currency symbol (%2). Qt formats only whole numbers
 // without rounding them to floating point, so one is formatted and taken out again: all from its
-// first digit to its last, as the formats of Windows and macOS write "1.00". A regular expression would
-// match nothing, without an error, if memory ran out.
+// first digit to its last, as the formats of Windows and macOS write "1.00". A regular expression
+// would match nothing, without an error, if memory ran out.
 QString arrangement(QLocale const& locale, bool negative)
 {
   QString const symbol(QChar(0x00A4));
