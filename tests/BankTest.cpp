@@ -22,8 +22,7 @@ TEST(Bank, RefusesToBreakItsRules)
   EXPECT_REFUSED(bank, bank.close(), elm, "Cannot close a bank that is already closed.", 1);
   Bank odd(BankName("<É>&  \n"), {}, true);
   EXPECT_REFUSED(odd, odd.close(), odd.name(), "Cannot close a bank that is already closed.", 1);
-  ScopedLocale const german(
-      QLocale("de_DE")); // which groups digits, but not those of account numbers
+  ScopedLocale const german(QLocale("de_DE")); // which groups digits of other numbers
   EXPECT_REFUSED(bank, bank.remove(AccountNumber(4294967295U)), elm,
                  "The account '4294967295' is not associated with the financial institution.", 1);
   EXPECT_REFUSED(open, open.open(), {}, "Cannot open a bank that is already opened.", 1);
