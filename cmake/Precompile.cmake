@@ -2,7 +2,7 @@
 # is compiled once for each target, so that the change of a central header is compiled sooner.
 function(orv_precompile)
   foreach(folder IN ITEMS
-      banking siblings/accounting siblings/foundation siblings/mintar examples examples/bankbook)
+      banking siblings/accounting siblings/foundation siblings/mintar examples bankbook)
     get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
     foreach(target IN LISTS targets)
       get_target_property(type ${target} TYPE)
