@@ -1,20 +1,18 @@
 #include "Book.hpp"
 
 #include "BookReader.hpp"
-#include "Terminal.hpp"
 
 #include <banking/ReconciledBankAccount.hpp>
 #include <foundation/Date.hpp>
 
-#include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <climits>
 
 using namespace orv::banking;
 using orv::accounting::AccountNumber;
 using enum orv::foundation::LocaleAware;
+using enum BankAccountTypes;
 using orv::foundation::presentationText; // of a date, whose own namespace has none
 
 namespace {
@@ -22,40 +20,12 @@ namespace {
 using Words = QStringList;
 using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
-QString written(Amount const& amount)
-{
-  return presentationText(amount.money());
-}
-
-// What there is to say of each command, which begins with a line on how it is written, and of the words
-// of commands at the end.
-QStringList helpTexts()
-{
-  QFile file(Book::tr(":/help.txt")); // a translation names the file in its language
-  file.open(QIODevice::ReadOnly);
-  return QString::fromUtf8(file.readAll()).split(QStringLiteral("\n\n"));
-}
-
-Statements readStatements(QString const& fileName)
-{
-  QFile file(fileName);
-  QFileInfo const info(file);
-  if (info.exists() && !info.isFile() && !info.isDir()) { // a device, which may have no end
-    throw BookError(Book::tr("%1 is not a file.").arg(fileName));
-  }
-  auto const content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  if (file.error() != QFile::NoError) {
-    throw unreadable(file, fileName);
-  }
-  return toStatements(content);
-}
-
-QString helpOn(QString const& command);
+QString usageOf(QString const& command);
 
 BookError writtenOtherwise(QString const& command)
 {
-  return BookError(Book::tr("The command is written: %1. Double quotes hold words with blanks.")
-                       .arg(helpOn(command).section(u'\n', 0, 0)));
+  return {Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
+          usageOf(command)};
 }
 
 // The bank that NAME [NUMBER=KIND ...] describes, in the words of a command.
@@ -69,186 +39,232 @@ Bank toBank(Words const& words)
     }
     auto const number = word.section(u'=', 0, 0);
     if (!accounts.emplace(toAccountNumber(number), toKind(kind)).second) {
-      throw BookError(Book::tr("The account number %1 is given twice.").arg(number));
+      throw BookError(Book::tr("The account number %1 is given twice."), number);
     }
   }
-  return Bank(BankName(words[1]), std::move(accounts), false);
+  return Bank(toBankName(words[1]), std::move(accounts), false);
 }
 
-// The account with the number. Throws where no bank holds it.
-BankAccount accountOf(Book const& book, AccountNumber const& number)
+// The identifier in the words from this one on, as statements have it.
+Identifier toIdentifier(Words words, qsizetype first)
+{
+  for (auto& word : words) {
+    word = word.simplified();
+  }
+  if (words.value(first, words[0]).isEmpty()) {
+    throw writtenOtherwise(words[0]);
+  }
+  return toLine(words.mid(first));
+}
+
+// Whether both may stand for one account: one of them is the other, begins it or is empty.
+bool mayBeOne(Identifier const& one, Identifier const& other)
+{
+  auto const& [shorter, longer] =
+      std::minmax(one, other, [](auto const& a, auto const& b) { return a.size() < b.size(); });
+  return shorter.isEmpty() ||
+         (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
+}
+
+// How the first of these identifiers are typed: by the ACCTID alone where no other of `among` has it.
+QStringList typed(QStringList identifiers, QStringList const& among)
+{
+  identifiers = identifiers.mid(0, 11); // a message shows ten
+  for (auto& identifier : identifiers) {
+    auto const account = toLine(toWords(identifier).mid(0, 1));
+    auto const isEnough = std::none_of(among.begin(), among.end(), [&](Identifier const& other) {
+      return other != identifier && mayBeOne(other, account);
+    });
+    identifier = isEnough ? account : identifier;
+  }
+  return identifiers;
+}
+
+// The kinds that the bank's type of an account stands for, or `kind` if it has none that is known. A goal is
+// money set aside.
+QList<BankAccountTypes> kindsOf(Identifier const& identifier, BankAccountTypes kind = Unknown)
+{
+  static QMap<QString, QList<BankAccountTypes>> const kinds{
+      {"CHECKING", {Chequeing}},      {"SAVINGS", {Savings, Goal}},
+      {"MONEYMRKT", {Savings, Goal}}, {"CD", {Savings, Goal}},
+      {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
+      {"CREDITCARD", {CreditCard}},   {"INVESTMENT", {}},
+  };
+  return kinds.value(toWords(identifier).value(2), {kind});
+}
+
+// The account with the number; of the kind `Unknown` if no bank holds it.
+BankAccount find(Book const& book, AccountNumber const& number)
 {
   for (auto const& [name, bank] : book.banks) {
     if (auto const found = bank.accounts().find(number); found != bank.accounts().end()) {
       return {name, {number, found->second}};
     }
   }
-  throw BookError(Book::tr("No bank holds the account number %1; list shows all.")
-                      .arg(presentationText(number)));
+  return {{}, {number}};
 }
 
-// The accounts of a bank; none where there is no such bank.
-Accounts accountsOf(Book const& book, BankName const& name)
+AccountNumberBankType held(Book const& book, AccountNumber const& number)
 {
-  return book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+  auto const account = find(book, number).accountNumberBankType;
+  if (account.bankAccountType == Unknown) {
+    throw BookError(Book::tr("No bank holds the account number %1; list shows all."),
+                    presentationText(number));
+  }
+  return account;
 }
 
-// Binds the account to the identifier. Throws where it is bound to another one, or another account of
-// its bank to this one.
-void bind(Book& book, AccountNumber const& ours, QString const& identifier)
-{
-  auto const bank = accountOf(book, ours).bankName;
-  auto const bound = book.identifiers.value(ours, identifier);
-  if (bound != identifier) {
-    throw BookError(Book::tr("The account number %1 is bound to '%2', not to '%3'; remove it and "
-                             "add it again to bind it anew.")
-                        .arg(presentationText(ours), bound, identifier));
-  }
-  for (auto const& number : book.identifiers.keys(identifier)) {
-    if (!(number == ours) && accountOf(book, number).bankName == bank) {
-      throw BookError(Book::tr("'%1' is bound to another account of the bank, %2.")
-                          .arg(identifier, presentationText(number)));
-    }
-  }
-  book.identifiers.insert(ours, identifier);
-}
-
-// Drops what is known of accounts that are no longer there, and the identifiers of those that have
+// Drops what is known of those accounts that are no longer there, and the identifiers of those that have
 // changed their kind.
-void drop(Book& book, Accounts const& before, Accounts const& now)
+void drop(Book& book, Accounts const& before)
 {
   for (auto const& [number, kind] : before) {
-    auto const found = now.find(number);
-    if (found == now.end()) {
+    auto const now = find(book, number).accountNumberBankType.bankAccountType;
+    if (now == Unknown) {
       book.balances.remove(number);
     }
-    if (found == now.end() || found->second != kind) {
+    if (now != kind) {
       book.identifiers.remove(number);
     }
   }
 }
 
-// Reconciles the account with what its bank says of it.
-void record(Book& book, AccountNumber const& number, Statement const& statement)
+// The longer one of this identifier and the one that the account is bound to. Throws where these are of two
+// accounts.
+Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
 {
-  auto const account = accountOf(book, number);
-  auto const& [accountId, balance, date] = statement;
-  auto const last = book.balances.value(number, {{}, balance, {}}); // any date is later than none
-  if (!(last.balance.currency == balance.currency)) {
-    throw BookError(Book::tr("The balance of the account number %1 is kept in %2, not in %3.")
-                        .arg(presentationText(number), last.balance.currency.isoCode(),
-                             balance.currency.isoCode()));
+  auto const bound = book.identifiers.value(number);
+  if (!mayBeOne(bound, identifier)) {
+    throw BookError(
+        Book::tr("The account number %1 is bound to %2, not to %3; remove it and add it "
+                 "again to bind it anew."),
+        presentationText(number), typed({bound}, {identifier}), typed({identifier}, {bound}));
   }
-  ReconciledBankAccount(account, last.balance.money(), last.date).reconcile(date, balance.money());
-  book.balances.insert(number, statement);
-  static auto const today = QDate::currentDate();
-  if (date > today) {
-    auto const warning =
-        Book::tr("The date %1 of the account number %2 lies in the future: no earlier one "
-                 "will be taken, unless you remove the number and add it again.");
-    qWarning().noquote() << warning.arg(presentationText(date), presentationText(number));
+  return bound.size() > identifier.size() ? bound : identifier;
+}
+
+// The accounts of ours that may be bound to it. One without a type stands for accounts of this kind.
+QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
+                             BankAccountTypes kind = Unknown)
+{
+  QList<AccountNumber> numbers;
+  auto const kinds = kindsOf(identifier, kind);
+  for (auto const& [number, other] : book.identifiers.asKeyValueRange()) {
+    if (mayBeOne(other, identifier) && kinds.contains(held(book, number).bankAccountType)) {
+      numbers += number;
+    }
+  }
+  return numbers;
+}
+
+// Throws where another account of ours may be bound to the identifier.
+void checkIsFree(Book const& book, AccountNumberBankType const& ours, Identifier const& identifier)
+{
+  for (auto const& number : boundTo(book, identifier, ours.bankAccountType)) {
+    if (!(number == ours.accountNumber)) {
+      throw BookError(Book::tr("The account number %1 is bound to %2; if this is another account, "
+                               "type the BANKID of both."),
+                      presentationText(number), book.identifiers.value(number));
+    }
   }
 }
 
-// Does so with the statement of the identifier, or else of the one that the account is bound to. Binds
-// the account to it, and returns what it says.
-QString take(Book& book, AccountNumber const& number, Statements const& file, QString const& id)
+// The account that the identifier stands for in the file, if it is for the kind of ours, and its latest
+// balance.
+std::pair<Identifier, ReconciledBalance>
+balanceFor(AccountNumberBankType const& ours, Statements const& file, Identifier const& identifier)
 {
-  auto const account = accountOf(book, number).accountNumberBankType;
-  auto const chosen = id.isEmpty() ? book.identifiers.value(number) : id.simplified();
-  auto const statement = statementFor(account, file, chosen);
-  bind(book, number, statement.accountId);
-  record(book, number, statement);
-  return Book::tr("%1: took the statement of %2, dated %3, with a balance of %4.")
-             .arg(presentationText(account, Yes), statement.accountId,
-                  presentationText(statement.date), written(statement.balance)) +
-         u'\n';
+  auto const kind = ours.bankAccountType;
+  auto found = file.keys();
+  found.removeIf([&](Identifier const& whole) {
+    return !mayBeOne(identifier, whole) || !kindsOf(whole, kind).contains(kind);
+  });
+  if (found.size() > 1) {
+    throw BookError(Book::tr("The file has several such accounts; add one at the end: %1."),
+                    typed(found, file.keys()));
+  }
+  auto const whole = found.value(0);
+  ReconciledBalance latest;
+  for (auto const& [balance, fault] : file.value(whole)) {
+    if (!fault.isEmpty()) {
+      throw BookError(fault);
+    }
+    latest = latest.occurredOn < balance.occurredOn ? balance : latest;
+  }
+  if (found.isEmpty() || !kindsOf(whole).contains(kind)) {
+    throw BookError(Book::tr("The file has no statement for %1; it has: %2."),
+                    (presentationText(ours, Yes) + u' ' + identifier).trimmed(), file.keys());
+  }
+  for (auto const& [balance, fault] : file.value(whole)) {
+    if (balance.occurredOn == latest.occurredOn && !(balance.balance == latest.balance)) {
+      throw BookError(Book::tr("The file has two balances of %1 on %2: %3 and %4."), whole,
+                      presentationText(latest.occurredOn), presentationText(latest.balance),
+                      presentationText(balance.balance));
+    }
+  }
+  return {whole, latest};
 }
 
-// Does so with the statements of all identifiers that an account is bound to.
-QString takeBound(Book& book, Statements const& file)
+// What is known of the account once it is reconciled. Throws where it must not be.
+ReconciledBalance reconciled(Book const& book, AccountNumber const& number,
+                             ReconciledBalance const& next)
 {
-  QString text;
-  QStringList unbound;
-  for (auto const& identifier : file.keys()) {
-    auto const numbers = book.identifiers.keys(identifier);
-    if (numbers.size() > 1) {
-      throw BookError(Book::tr("Accounts of several banks are bound to '%1'. Take their "
-                               "statements one by one: statement NUMBER FILE")
-                          .arg(identifier));
-    }
-    if (numbers.isEmpty()) {
-      unbound += identifier;
-    } else {
-      text += take(book, numbers[0], file, identifier);
-    }
+  held(book, number);
+  auto const last = book.balances.value(number, next); // the first is of any day and currency
+  ReconciledBankAccount account(find(book, number), last.balance, last.occurredOn);
+  if (!(last.balance.currency() == next.balance.currency())) {
+    throw BookError(Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
+                             "forget %1"),
+                    presentationText(number), last.balance.currency().isoCode(),
+                    next.balance.currency().isoCode());
   }
-  auto const others =
-      Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER")
-          .arg(firstTen(unbound));
-  if (text.isEmpty()) {
-    throw BookError(others);
+  try {
+    account.reconcile(next.occurredOn, next.balance);
+  } catch (BankError const& refusal) {
+    auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
+    throw BookError(text.arg(QString::fromUtf8(refusal.what()), presentationText(number)));
   }
-  return unbound.isEmpty() ? text : text + others + u'\n';
+  return {account.balance(), *account.reconciledOn()};
 }
 
 // The commands. Each takes its words, of which the first is its own name.
 
-void add(Book& book, Words const& words)
+void add(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toAccountNumber(words[2]);
   auto const kind = toKind(words[3]);
-  auto const holder = book.banks.find(number);
-  auto const before = holder ? holder->accounts().at(number) : kind;
-  book.banks.add(BankName(words[1]), number, kind);
-  drop(book, {{number, before}}, {{number, kind}});
+  auto const before = find(book, number).accountNumberBankType;
+  book.banks.add(toBankName(words[1]), number, kind);
+  drop(book, {{number, before.bankAccountType}});
 }
 
-void identify(Book& book, Words const& words)
+void addBank(Book& book, Words const& words, Answer& /*answer*/)
 {
-  auto const identifier = words[2].simplified(); // as statements have it
-  if (identifier.isEmpty()) {
-    throw writtenOtherwise(words[0]);
+  book.banks.add(toBank(words));
+}
+
+void close(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.close(toBankName(words[1]));
+}
+
+void forget(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const account = held(book, toAccountNumber(words[1]));
+  if (book.balances.remove(account.accountNumber) == 0) {
+    throw BookError(Book::tr("Nothing is recorded of %1."), presentationText(account, Yes));
   }
-  bind(book, toAccountNumber(words[1]), identifier);
 }
 
-void reconcile(Book& book, Words const& words)
+void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
-  record(book, toAccountNumber(words[1]), {{}, toAmount(words[3], words[4]), toDate(words[2])});
+  auto const account = held(book, toAccountNumber(words[1]));
+  auto const identifier = longer(book, account.accountNumber, toIdentifier(words, 2));
+  checkIsFree(book, account, identifier);
+  book.identifiers[account.accountNumber] = identifier;
 }
 
-void remove(Book& book, Words const& words)
-{
-  BankName const name(words[1]);
-  auto const before = accountsOf(book, name);
-  if (words.size() == 2) {
-    book.banks.remove(name);
-  } else {
-    book.banks.remove(name, toAccountNumber(words[2]));
-  }
-  drop(book, before, accountsOf(book, name));
-}
-
-void update(Book& book, Words const& words)
-{
-  auto const bank = toBank(words);
-  auto const before = accountsOf(book, bank.name());
-  book.banks.update(bank);
-  drop(book, before, bank.accounts());
-}
-
-QString find(Book& book, Words const& words)
-{
-  return presentationText(accountOf(book, toAccountNumber(words[1])), Yes) + u'\n';
-}
-
-QString help(Book& /*book*/, Words const& words)
-{
-  return words.size() == 1 ? usage() : helpOn(words[1]) + u'\n';
-}
-
-QString list(Book& book, Words const& /*words*/)
+void list(Book& book, Words const& /*words*/, Answer& answer)
 {
   QList<QStringList> rows{{Book::tr("Bank"), Book::tr("State"), Book::tr("Account"),
                            Book::tr("Kind"), Book::tr("Class"), Book::tr("Balance"),
@@ -260,115 +276,170 @@ QString list(Book& book, Words const& /*words*/)
       rows += start;
     }
     for (auto const& [number, kind] : bank.accounts()) {
-      auto row =
-          start + QStringList{presentationText(number), presentationText(kind),
-                              isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability")};
-      if (auto const known = book.balances.find(number); known != book.balances.end()) {
-        row += {written(known->balance), presentationText(known->date)};
-      }
-      rows += row;
+      rows += start + QStringList{presentationText(number), presentationText(kind),
+                                  isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability")};
+      auto const known = book.balances.value(number);
+      rows.last() += {presentationText(known.balance), presentationText(known.occurredOn)};
     }
   }
-  return toTable(rows, "llrllrl");
+  answer.table = toTable(rows, "llrllrl");
 }
 
-// Banks are closed after all else, so that the book takes every line.
-QString print(Book& book, Words const& /*words*/)
+void open(Book& book, Words const& words, Answer& /*answer*/)
 {
-  QString lines;
-  QString closed;
-  for (auto const& [name, bank] : book.banks) {
-    QStringList words{"bank", name.institution()};
-    for (auto const& [number, kind] : bank.accounts()) {
-      words += presentationText(number) + u'=' + toNonLocalisedText(kind);
+  book.banks.open(toBankName(words[1]));
+}
+
+void reconcile(Book& book, Words const& words, Answer& answer)
+{
+  for (qsizetype i = 1; i < words.size(); ++i) {
+    if ((i != 2 && QDate::fromString(words[i], Qt::ISODate).isValid()) ||
+        (i != 4 && isCurrency(words[i]))) {
+      throw BookError(Book::tr("'%1' stands in the wrong place: %2"), words[i], usageOf(words[0]));
     }
-    lines += toLine(words);
-    closed += bank.isClosed() ? toLine({"close", name.institution()}) : QString();
   }
-  for (auto const& [number, identifier] : book.identifiers.asKeyValueRange()) {
-    lines += toLine({"identifier", presentationText(number), identifier});
-  }
-  for (auto const& [number, known] : book.balances.asKeyValueRange()) {
-    lines += toLine({"reconcile", presentationText(number), known.date.toString(Qt::ISODate),
-                     known.balance.text, known.balance.currency.isoCode()});
-  }
-  return lines + closed;
+  auto const number = toAccountNumber(words[1]);
+  auto const date = toDate(words[2]);
+  book.balances[number] = reconciled(book, number, {toMoney(words[3], words[4]), date});
+  answer.reconciled = {number};
 }
 
-QString statement(Book& book, Words const& words)
+void remove(Book& book, Words const& words, Answer& /*answer*/)
 {
-  Book next = book; // which takes all that there is to take, or is dropped
+  auto const name = toBankName(words[1]);
+  if (words.size() == 2) {
+    auto const before = book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+    book.banks.remove(name);
+    drop(book, before);
+  } else {
+    auto const number = toAccountNumber(words[2]);
+    book.banks.remove(name, number);
+    book.identifiers.remove(number);
+    book.balances.remove(number);
+  }
+}
+
+void rename(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.rename(toBankName(words[1]), toBankName(words[2]));
+}
+
+void statement(Book& book, Words const& words, Answer& answer)
+{
   auto const isOfAll = words.size() == 2;
-  auto const file = readStatements(book.folder.filePath(words[isOfAll ? 1 : 2]));
+  auto const fileName = words[isOfAll ? 1 : 2];
+  QFile file(pathOf(book.folder, fileName));
+  QFileInfo const info(file);
+  if (info.exists() && !info.isFile() && !info.isDir()) { // a device, which may have no end
+    throw BookError(Book::tr("%1 is not a file."), fileName);
+  }
+  auto const statements = readOfx(contentOf(file, fileName));
+  auto const all = statements.keys();
+  for (auto const& whole : all) {
+    answer.reconciled += isOfAll ? boundTo(book, whole) : QList<AccountNumber>();
+  }
+  if (!isOfAll) {
+    answer.reconciled = {toAccountNumber(words[1])};
+  }
+
+  auto next = std::pair(book.identifiers, book.balances); // with all that there is to take
+  for (auto const& number : answer.reconciled) {
+    auto const account = held(book, number);
+    auto const sought = longer(book, number, toIdentifier(words, isOfAll ? 2 : 3));
+    auto const [identifier, balance] = balanceFor(account, statements, sought);
+    checkIsFree(book, account, identifier);
+    next.first[number] = identifier;
+    next.second[number] = reconciled(book, number, balance);
+    answer.messages +=
+        filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
+               presentationText(account, Yes), typed({identifier}, all),
+               presentationText(balance.occurredOn), presentationText(balance.balance));
+  }
+  std::tie(book.identifiers, book.balances) = next;
+
+  auto const known = all + book.identifiers.values();
+  auto others = all;
+  others.removeIf([&](Identifier const& whole) { return !boundTo(book, whole).isEmpty(); });
   auto const text =
-      isOfAll ? takeBound(next, file) : take(next, toAccountNumber(words[1]), file, words.value(3));
-  book = next;
-  return text;
+      Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
+  if (answer.reconciled.isEmpty()) {
+    throw BookError(text, typed(others, known));
+  }
+  if (!others.isEmpty()) {
+    answer.messages += filled(text, typed(others, known));
+  }
+}
+
+void update(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const bank = toBank(words);
+  auto const name = bank.name();
+  auto const before = book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+  book.banks.update(bank);
+  drop(book, before);
 }
 
 struct Command
 {
   qsizetype fewest; // words after its name
   qsizetype most;
-  void (*change)(Book& book, Words const& words);
-  QString (*show)(Book& book, Words const& words) = nullptr;
+  void (*function)(Book& book, Words const& words, Answer& answer);
+  char const* usage;
 };
 
 std::map<QString, Command> const commands{
-    {"add", {3, 3, &add}},
-    {"bank", {1, INT_MAX, [](Book& book, Words const& words) { book.banks.add(toBank(words)); }}},
-    {"close", {1, 1, [](Book& book, Words const& words) { book.banks.close(BankName(words[1])); }}},
-    {"find", {1, 1, nullptr, &find}},
-    {"help", {0, 1, nullptr, &help}},
-    {"identifier", {2, 2, &identify}},
-    {"list", {0, 0, nullptr, &list}},
-    {"open", {1, 1, [](Book& book, Words const& words) { book.banks.open(BankName(words[1])); }}},
-    {"print", {0, 0, nullptr, &print}},
-    {"reconcile", {4, 4, &reconcile}},
-    {"remove", {1, 2, &remove}},
-    {"rename",
-     {2, 2,
-      [](Book& book, Words const& words) {
-        book.banks.rename(BankName(words[1]), BankName(words[2]));
-      }}},
-    {"statement", {1, 3, nullptr, &statement}},
-    {"update", {1, INT_MAX, &update}},
+    {"add", {3, 3, &add, QT_TRANSLATE_NOOP("Book", "add NAME NUMBER KIND")}},
+    {"bank", {1, INT_MAX, &addBank, QT_TRANSLATE_NOOP("Book", "bank NAME [NUMBER=KIND ...]")}},
+    {"close", {1, 1, &close, QT_TRANSLATE_NOOP("Book", "close NAME")}},
+    {"forget", {1, 1, &forget, QT_TRANSLATE_NOOP("Book", "forget NUMBER")}},
+    {"identifier", {2, 4, &identify, QT_TRANSLATE_NOOP("Book", "identifier NUMBER IDENTIFIER")}},
+    {"list", {0, 0, &list, QT_TRANSLATE_NOOP("Book", "list")}},
+    {"open", {1, 1, &open, QT_TRANSLATE_NOOP("Book", "open NAME")}},
+    {"reconcile",
+     {4, 4, &reconcile, QT_TRANSLATE_NOOP("Book", "reconcile NUMBER DATE AMOUNT CURRENCY")}},
+    {"remove", {1, 2, &remove, QT_TRANSLATE_NOOP("Book", "remove NAME [NUMBER]")}},
+    {"rename", {2, 2, &rename, QT_TRANSLATE_NOOP("Book", "rename FROM TO")}},
+    {"statement",
+     {1, 5, &statement, QT_TRANSLATE_NOOP("Book", "statement [NUMBER] FILE [IDENTIFIER]")}},
+    {"update", {1, INT_MAX, &update, QT_TRANSLATE_NOOP("Book", "update NAME [NUMBER=KIND ...]")}},
 };
 
-QString helpOn(QString const& command)
+QString usageOf(QString const& command)
 {
-  if (!commands.contains(command)) {
-    throw BookError(Book::tr("There is no command '%1'; help shows the commands.").arg(command));
-  }
-  return helpTexts().filter(QRegularExpression(u'^' + command + QStringLiteral("\\s"))).value(0);
+  return Book::tr(commands.at(command).usage);
 }
 
 } // namespace
 
 QString usage()
 {
-  auto texts = helpTexts();
-  auto const onWords = texts.takeLast();
-  QString usage;
-  for (auto const& text : texts) {
-    usage += QStringLiteral("  ") + text.section(u'\n', 0, 0) + u'\n';
+  QString text;
+  for (auto const& [name, command] : commands) {
+    text += QStringLiteral("  ") + usageOf(name) + u'\n';
   }
-  return usage + u'\n' + onWords;
+  return text + u'\n' +
+         Book::tr("A line holds one command. Straight double quotes hold a word with blanks; \\\" "
+                  "in them is a\nquote, \\\\ a backslash. # begins a comment.\n"
+                  "  KIND        Chequeing, \"Credit Card\", Loan, Savings or Goal\n"
+                  "  DATE        such as 2026-10-31\n"
+                  "  AMOUNT      such as -1250.50, with a point and nothing between thousands\n"
+                  "  CURRENCY    such as CAD\n"
+                  "  IDENTIFIER  ACCTID [BANKID [ACCTTYPE]], as the file has them\n");
 }
 
-QString execute(Book& book, QStringList const& words)
+Answer execute(Book& book, QStringList const& words)
 {
-  if (words.isEmpty()) {
-    return {};
+  Answer answer;
+  if (!words.isEmpty()) {
+    auto const found = commands.find(words[0]);
+    if (found == commands.end()) {
+      throw BookError(Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
+    }
+    auto const& [fewest, most, function, usage] = found->second;
+    if (words.size() <= fewest || words.size() - 1 > most) {
+      throw writtenOtherwise(words[0]);
+    }
+    function(book, words, answer);
   }
-  auto const found = commands.find(words[0]);
-  auto const given = words.size() - 1;
-  if (found == commands.end() || given < found->second.fewest || given > found->second.most) {
-    throw writtenOtherwise(words[0]);
-  }
-  if (auto const show = found->second.show) {
-    return show(book, words);
-  }
-  found->second.change(book, words);
-  return {};
+  return answer;
 }

@@ -1,43 +1,24 @@
 #include "BookReader.hpp"
 
-#include "Terminal.hpp"
-
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringDecoder>
 
-#include <algorithm>
 #include <cerrno>
 #include <utility>
 
-namespace {
-
-// Qt's conversions take signs, spaces and other digits, too. A regular expression takes five times as long.
-bool isAll(QStringView text, QChar first, QChar last)
-{
-  return !text.isEmpty() &&
-         std::all_of(text.begin(), text.end(), [&](QChar c) { return c >= first && c <= last; });
-}
-
-} // namespace
+using mintar::Money;
 
 QString toText(QByteArrayView line)
 {
   line.chop(line.endsWith('\n') ? 1 : 0);
   line.chop(line.endsWith('\r') ? 1 : 0);
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  QString text = decode(line);
+  QString const text = decode(line);
   if (decode.hasError()) {
     throw BookError(BookError::tr("The line is not UTF-8 text; save the book as UTF-8."));
   }
-  text.replace(u'\t', u' ');
-  for (auto const c : text.toStdU32String()) {
-    if (!isPrintable(c)) {
-      throw BookError(BookError::tr("The line contains the character %1, which cannot be shown.")
-                          .arg(printable(QString::fromUcs4(&c, 1))));
-    }
-  }
-  return text;
+  return toPlain(text);
 }
 
 QStringList toWords(QString const& line)
@@ -48,6 +29,9 @@ QStringList toWords(QString const& line)
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size() && (inWord || line[i] != u'#'); ++i) {
     auto const c = line[i];
+    if (!inWord && QStringView(u"“”„‟«»").contains(c)) {
+      throw BookError(BookError::tr("%1 is not a straight double quote."), QString(c));
+    }
     if (inWord && !inQuotes && c == u' ') {
       words += std::exchange(word, {});
     }
@@ -62,30 +46,39 @@ QStringList toWords(QString const& line)
     }
   }
   if (inQuotes) {
-    throw BookError(BookError::tr("A quoted word does not end; close it with a double quote."));
+    throw BookError(BookError::tr("A quoted word does not end; close it with a straight quote."));
   }
   return inWord ? words << word : words;
 }
 
-QString toLine(QStringList const& words)
+QString toLine(QStringList words)
 {
-  static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\]+$"));
-  auto written = words;
-  for (auto& word : written) {
+  static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\“”„‟«»]+$"));
+  for (auto& word : words) {
     if (!plain.match(word).hasMatch()) {
       word.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
       word = u'"' + word + u'"';
     }
   }
-  return written.join(u' ') + u'\n';
+  return words.join(u' ');
+}
+
+orv::banking::BankName toBankName(QString const& word)
+{
+  if (shown(word) != word) {
+    throw BookError(BookError::tr("The name '%1' has more than 100 characters."), word);
+  }
+  return orv::banking::BankName(word);
 }
 
 orv::accounting::AccountNumber toAccountNumber(QString const& word)
 {
+  // Qt's conversions take signs, spaces and other digits, too.
+  static QRegularExpression const digits(QStringLiteral("^[0-9]+$"));
   bool fits = false;
   auto const integer = word.toUInt(&fits);
-  if (!fits || !isAll(word, u'0', u'9')) {
-    throw BookError(BookError::tr("'%1' is not an account number such as 1010.").arg(word));
+  if (!fits || !digits.match(word).hasMatch()) {
+    throw BookError(BookError::tr("'%1' is not an account number such as 1010."), word);
   }
   return orv::accounting::AccountNumber(integer);
 }
@@ -96,42 +89,94 @@ orv::banking::BankAccountTypes toKind(QString const& word)
     return orv::banking::toBankAccountTypes(word);
   } catch (std::logic_error const&) { // whose text is for programmers
     throw BookError(BookError::tr("'%1' is no kind of account; the kinds are: Chequeing, "
-                                  "\"Credit Card\", Loan, Savings, Goal.")
-                        .arg(word));
+                                  "\"Credit Card\", Loan, Savings, Goal."),
+                    word);
   }
 }
 
 QDate toDate(QString const& word)
 {
-  auto const date = QDate::fromString(word, Qt::ISODate);
-  if (!date.isValid() || word.size() != 10 || !isAll(QString(word).remove(u'-'), u'0', u'9')) {
-    throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31.").arg(word));
+  static QRegularExpression const form(QStringLiteral("^([0-9]{4})-([0-9]{2})-([0-9]{2})$"));
+  auto const day = toDay(form.match(word));
+  if (!day.isValid()) {
+    throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31."), word);
   }
-  return date;
+  return day;
 }
 
-Amount toAmount(QString const& amount, QString const& currency)
+QDate toDay(QRegularExpressionMatch const& digits)
 {
+  return {digits.captured(1).toInt(), digits.captured(2).toInt(), digits.captured(3).toInt()};
+}
+
+bool isCurrency(QString const& word)
+{
+  static QRegularExpression const form(QStringLiteral("^[A-Z]{3}$"));
+  return form.match(word).hasMatch();
+}
+
+Money toMoney(QString const& amount, QString const& currency)
+{
+  static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
+  static std::pair<QRegularExpression, char const*> const faults[]{
+      {QRegularExpression(QStringLiteral("^([+−–(]|--)|[-−–)]$")),
+       QT_TRANSLATE_NOOP("BookError", "The sign of '%1' is wrong; only what you owe has one, -.")},
+      {QRegularExpression(QStringLiteral("^-?[0-9]*,[0-9]+$")),
+       QT_TRANSLATE_NOOP("BookError",
+                         "'%1' has a comma; decimals follow a point, and nothing stands "
+                         "between thousands.")},
+      {QRegularExpression(QStringLiteral("[0-9][.,'’ ][0-9]{3}([.,]|$)")),
+       QT_TRANSLATE_NOOP("BookError", "'%1' has separators; nothing stands between thousands.")},
+      {QRegularExpression(), QT_TRANSLATE_NOOP("BookError", "'%1' is no amount such as -1250.50.")},
+  };
+  if (!isCurrency(currency)) {
+    throw BookError(BookError::tr("'%1' is not a currency such as CAD."), currency);
+  }
   mintar::Currency const known(currency);
-  auto const places = known.decimals();
-  auto const point = amount.indexOf(u'.');
-  auto const whole = amount.left(point); // all of it where there is no point
-  auto const decimals = point < 0 ? QString() : amount.mid(point + 1);
-  auto const beyond = QStringView(decimals).mid(places); // what the currency has not
-  bool fits = false;
-  auto const minorUnits = (whole + decimals.leftJustified(places, u'0', true)).toLongLong(&fits);
-  if (!fits || !isAll(whole.mid(whole.startsWith(u'-') ? 1 : 0), u'0', u'9') ||
-      (point >= 0 && !isAll(decimals, u'0', u'9')) || beyond.count(u'0') != beyond.size() ||
-      currency.size() != 3 || !isAll(currency, u'A', u'Z')) {
-    throw BookError(
-        BookError::tr("'%1' is not an amount such as -1250.50 CAD.").arg(amount + u' ' + currency));
+  auto const parts = form.match(amount);
+  for (auto const& [fault, text] : faults) {
+    if (!parts.hasMatch() && fault.match(amount).hasMatch()) {
+      throw BookError(BookError::tr(text), amount);
+    }
   }
-  return {known, minorUnits, amount};
+  if (parts.captured(3).size() > known.decimals()) {
+    throw BookError(BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "
+                                  "between thousands."),
+                    amount, currency, QString::number(known.decimals()));
+  }
+  auto const money = exactMoney(parts, known);
+  if (!money) {
+    throw BookError(BookError::tr("'%1' is too large."), amount);
+  }
+  return *money;
 }
 
-BookError unreadable(QFile const& file, QString const& name)
+std::optional<Money> exactMoney(QRegularExpressionMatch const& parts,
+                                mintar::Currency const& currency)
 {
-  // Of a folder, each system has its own difficulty, and Qt its own words.
-  auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
-  return BookError(BookError::tr("%1 cannot be read: %2").arg(name, reason));
+  auto const places = currency.decimals();
+  auto const decimals = parts.captured(3);
+  auto const beyond = decimals.mid(places); // what the currency has not
+  auto const digits = parts.captured(2) + decimals.leftJustified(places, u'0', true);
+  bool fits = false;
+  Money const money(currency, (parts.captured(1) + u'0' + digits).toLongLong(&fits));
+  return fits && beyond.count(u'0') == beyond.size() ? std::optional(money) : std::nullopt;
+}
+
+QString pathOf(QDir const& folder, QString const& fileName)
+{
+  // To Qt, a colon in front means a resource.
+  return folder.filePath(fileName.startsWith(u':') ? QStringLiteral("./") + fileName : fileName);
+}
+
+QByteArray contentOf(QFile& file, QString const& name)
+{
+  auto const isOpen = file.isOpen() || file.open(QIODevice::ReadOnly);
+  auto const content = isOpen ? file.readAll() : QByteArray();
+  if (file.error() != QFile::NoError) {
+    // Of a folder, each system has its own difficulty, and Qt its own words.
+    auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
+    throw BookError(BookError::tr("%1 cannot be read: %2"), name, reason);
+  }
+  return content;
 }

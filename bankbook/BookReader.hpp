@@ -1,31 +1,37 @@
 #pragma once
 
-#include "BookError.hpp"
+#include "Text.hpp"
 
 #include <accounting/AccountNumber.hpp>
 #include <banking/BankAccountTypes.hpp>
+#include <banking/BankName.hpp>
 #include <mintar/Money.hpp>
 
 #include <QByteArrayView>
 #include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
 #include <QStringList>
 
-class QFile;
+#include <optional>
 
-// How a book is read. Each function throws BookError with the word in the text.
+// How a book is read. The functions that read a line or a word throw BookError, with the word in its text.
 
-/// Returns the text of a line, which may end with LF or CR LF, with blanks for tabs. Throws for bytes that
-/// are not UTF-8, and for what is not printable: a NUL, a CR that hides the line before it, or a code that
-/// a terminal would obey.
+/// Returns the text of a line, which may end with LF or CR LF, as `toPlain` does. Throws for bytes that are
+/// not UTF-8, too.
 QString toText(QByteArrayView line);
 
 /// Returns the words of a line: blanks separate them, double quotes hold words with blanks together, and
 /// # where a word could begin starts a comment. In quotes, \" and \\ stand for a quote and a backslash.
-/// Throws for a quote that does not end.
+/// Throws for a quote that does not end, and for a curly one where a word begins.
 QStringList toWords(QString const& line);
 
-/// Returns the line, with its LF, that has these words, in quotes where they take them.
-QString toLine(QStringList const& words);
+/// Returns the words as a line has them, in quotes where they take them.
+QString toLine(QStringList words);
+
+/// Reads the name of a bank, which may have 100 characters.
+orv::banking::BankName toBankName(QString const& word);
 
 /// Reads an account number in decimal digits. Zero, the invalid number, is read like any other.
 orv::accounting::AccountNumber toAccountNumber(QString const& word);
@@ -36,19 +42,23 @@ orv::banking::BankAccountTypes toKind(QString const& word);
 /// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
 
-/// An amount as a book or a bank's statement has it.
-struct Amount
-{
-  mintar::Currency currency;
-  qint64 minorUnits = 0;
-  QString text; ///< the number as it was written
+/// Returns the day that these digits of a year, a month and a day are; an invalid one for no such day.
+QDate toDay(QRegularExpressionMatch const& digits);
 
-  [[nodiscard]] mintar::Money money() const { return {currency, minorUnits}; }
-};
+/// Returns whether the word is three capital letters.
+bool isCurrency(QString const& word);
 
-/// Reads an amount, for instance "-1250.5", exactly: decimals that the currency has not are zeros, and
-/// a 64-bit number holds the minor units. The currency is three capital letters.
-Amount toAmount(QString const& amount, QString const& currency);
+/// Reads an amount, for instance "-1250.5", with no more decimals than the currency has.
+mintar::Money toMoney(QString const& amount, QString const& currency);
 
-/// Returns the error that the file cannot be opened or read, with the reason as the system says it.
-BookError unreadable(QFile const& file, QString const& name);
+/// Returns the amount that a sign, digits and decimals make, or nothing if it takes more than 64 bits, or
+/// decimals other than zeros that the currency has not.
+std::optional<mintar::Money> exactMoney(QRegularExpressionMatch const& parts,
+                                        mintar::Currency const& currency);
+
+/// Returns the path of the file that a user names.
+QString pathOf(QDir const& folder, QString const& fileName);
+
+/// Returns all that the file holds, which is opened if it is not yet. Throws if it cannot be read, with the
+/// reason as the system says it.
+QByteArray contentOf(QFile& file, QString const& name);

@@ -1,9 +1,9 @@
 #include "OfxReader.hpp"
 
-#include "BookError.hpp"
-#include "Terminal.hpp"
+#include "BookReader.hpp"
 
 #include <QRegularExpression>
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -50,18 +50,67 @@ Tag nextTag(std::string_view content, std::size_t from)
 
 QString toValue(std::string_view bytes)
 {
-  auto text = QString::fromUtf8(QByteArrayView(bytes));
+  QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  QString text = decode(QByteArrayView(bytes));
+  text = decode.hasError() ? QString::fromLatin1(QByteArrayView(bytes)) : text;
   text.replace("&nbsp;", " ");
   QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();
   auto const value = xml.readElementText();
   // In SGML, an ampersand may also stand for itself.
-  return printable((xml.hasError() ? text : value).simplified());
+  return (xml.hasError() ? text : value).simplified();
+}
+
+// What is read of a statement, by element. The elements of its balance are named like LEDGERBAL/BALAMT.
+using Values = QMap<QString, QString>;
+
+// Throws where the bank reports an error.
+void checkStatus(Values const& values)
+{
+  if (values["SEVERITY"].toUpper() == u"ERROR") {
+    throw BookError(BookError::tr("The bank reports an error: %1"),
+                    values.value("MESSAGE", values["CODE"]));
+  }
+}
+
+// Throws where a value is missing or cannot be read, in the bank's own spelling.
+orv::banking::ReconciledBalance toBalance(Values const& values)
+{
+  // An amount has a point or a comma; a date begins with the day, whatever time and zone follow.
+  static QRegularExpression const amountForm(
+      QStringLiteral("^(?:\\+|(-))?(?=[.,]?[0-9])([0-9]*)(?:[.,]([0-9]+))?$"));
+  static QRegularExpression const dateForm(
+      QStringLiteral("^([0-9]{4})([0-9]{2})([0-9]{2})(?:[0-9]{2}){0,3}(?![0-9])"));
+  checkStatus(values);
+  toPlain(QStringList(values.values()).join(u' '));
+  for (QString const element :
+       {"ACCTID", "ACCTTYPE", "CURDEF", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
+    if (values[element].isEmpty()) {
+      throw BookError(BookError::tr("The statement has no %1."), element);
+    }
+  }
+  mintar::Currency const currency(values["CURDEF"]);
+  auto const amount = amountForm.match(values["LEDGERBAL/BALAMT"]);
+  if (amount.captured(3).size() == 3 && currency.decimals() != 3) {
+    throw BookError(BookError::tr("The statement's BALAMT '%1' has three decimals, or thousands."),
+                    amount.captured());
+  }
+  auto const balance = amount.hasMatch() ? exactMoney(amount, currency) : std::nullopt;
+  auto const day = toDay(dateForm.match(values["LEDGERBAL/DTASOF"]));
+  auto const* const wrong = !isCurrency(currency.isoCode()) ? "CURDEF"
+                            : !balance                      ? "LEDGERBAL/BALAMT"
+                            : !day.isValid()                ? "LEDGERBAL/DTASOF"
+                                                            : nullptr;
+  if (wrong != nullptr) {
+    throw BookError(BookError::tr("The statement's %1 '%2' cannot be read."), QString(wrong),
+                    values[wrong]);
+  }
+  return {*balance, day};
 }
 
 } // namespace
 
-QList<OfxValues> readOfx(QByteArray const& bytes)
+Statements readOfx(QByteArray const& bytes)
 {
   // The elements that hold others, whose tags tell whether the file is whole. All others are values: in
   // SGML they may do without end tags, and some banks mistype them.
@@ -69,41 +118,76 @@ QList<OfxValues> readOfx(QByteArray const& bytes)
       "^(?:OFX|SIGNONMSGSRSV1|SONRS|FI|STATUS|(?:BANK|CREDITCARD|INVSTMT)MSGSRSV1|"
       "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"
       "(?:EXTD)?PAYEE|(?:ORIG)?CURRENCY|IMAGEDATA|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
-  static QRegularExpression const wanted(
-      QStringLiteral("^/OFX/(?:.*/)?(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?"
-                     "(CURDEF|ACCTID|ACCTTYPE|LEDGERBAL/BALAMT|LEDGERBAL/DTASOF)$"));
-  QList<OfxValues> statements;
+  static QRegularExpression const wanted(QStringLiteral(
+      "^/OFX/(?:.*/)?(?:(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?|INVSTMTRS/INVACCTFROM/|STATUS/)"
+      "(CURDEF|BANKID|BRANCHID|BROKERID|ACCTID|ACCTTYPE|ACCTKEY|LEDGERBAL/BALAMT|LEDGERBAL/"
+      "DTASOF|CODE|SEVERITY|MESSAGE)$"));
+  // Where all that may stand is known, text in any other element has been torn from a value.
+  static QRegularExpression const narrow(QStringLiteral("STMTRS/(?:LEDGERBAL|[A-Z]+ACCTFROM)/$"));
+  QList<Values> statements;
+  Values status;      // which the bank gives the statement that follows
   QString path(u'/'); // of the elements that hold the tag
+  QString open;       // the value before the tag, if no other tag stands between
   bool isOfx = false;
   bool isDamaged = false;
   std::string_view const content(bytes.data(), static_cast<std::size_t>(bytes.size()));
   for (auto tag = nextTag(content, 0), next = tag; !tag.name.isEmpty() && !isDamaged; tag = next) {
     next = nextTag(content, tag.end);
+    auto const text = content.substr(tag.end, next.begin - tag.end);
     auto const step = tag.name + u'/';
-    auto const isStatement = step == u"STMTRS/" || step == u"CCSTMTRS/";
-    if (auto const value = wanted.match(path + tag.name).captured(1); !value.isEmpty()) {
-      // What is said twice is damaged, and so is an end tag that is not next.
-      isDamaged = tag.isEnd || statements.last().contains(value);
-      statements.last()[value] = toValue(content.substr(tag.end, next.begin - tag.end));
-      next = next.isEnd && next.name == tag.name ? nextTag(content, next.end) : next;
-    } else if (tag.isEnd && holder.match(tag.name).hasMatch()) {
+    auto const value = wanted.match(path + tag.name).captured(1);
+    auto const before = std::exchange(open, QString());
+    if (holder.match(tag.name).hasMatch() && tag.isEnd) {
       isDamaged = !path.endsWith(u'/' + step);
       path.chop(step.size());
     } else if (holder.match(tag.name).hasMatch()) {
+      auto const isStatement = step.endsWith(u"STMTRS/");
       // No whole file is deeper: in one that is, each step would take longer than the last.
       isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/")) ||
                   (step == u"OFX/" && std::exchange(isOfx, true));
       path += step;
-    }
-    if (isStatement && !tag.isEnd && path.startsWith(u"/OFX/")) {
-      statements += tag.name == u"STMTRS" ? OfxValues() : OfxValues{{"ACCTTYPE", "CREDITCARD"}};
+      if (isStatement && path.startsWith(u"/OFX/")) {
+        statements += status;
+        if (tag.name != u"STMTRS") {
+          statements.last()["ACCTTYPE"] = tag.name == u"CCSTMTRS" ? "CREDITCARD" : "INVESTMENT";
+        }
+      } else if (tag.name == u"STATUS") {
+        status.clear();
+      }
+    } else if (!value.isEmpty() && !tag.isEnd) {
+      auto& values = path.endsWith(u"/STATUS/") ? status : statements.last();
+      isDamaged = values.contains(value); // What is said twice is damaged.
+      values[value] = toValue(text);
+      open = tag.name;
+    } else if (!value.isEmpty() || !before.isEmpty() || narrow.match(path).hasMatch()) {
+      isDamaged = (!value.isEmpty() && before != tag.name) || !toValue(text).isEmpty();
     }
   }
   if (isDamaged || path != u"/") {
     throw BookError(BookError::tr("The file is cut short, damaged, or several files in one."));
   }
-  if (!isOfx) {
-    throw BookError(BookError::tr("The file is not an OFX file, or is one in UTF-16 or UTF-32."));
+  if (bytes.trimmed().isEmpty()) {
+    throw BookError(BookError::tr("The file is empty."));
   }
-  return statements;
+  if (!isOfx) {
+    toPlain(QString(bytes.contains('\0') ? 1 : 0, u'\0')); // which UTF-16 has
+    throw BookError(
+        BookError::tr("The file is not OFX; download the statement as OFX, QFX or Money, "
+                      "not as PDF, CSV or QIF."));
+  }
+  Statements result;
+  for (auto const& values : statements) {
+    auto const type = values["ACCTTYPE"].toUpper();
+    auto& same = result[toLine({values["ACCTID"], values["BANKID"], type})];
+    try {
+      same += {toBalance(values), {}};
+    } catch (BookError const& fault) {
+      same += {{}, QString::fromUtf8(fault.what())};
+    }
+  }
+  if (result.isEmpty()) {
+    checkStatus(status);
+    throw BookError(BookError::tr("The file has no statement of a bank account or a credit card."));
+  }
+  return result;
 }

@@ -1,20 +1,19 @@
 #include "Book.hpp"
 #include "BookReader.hpp"
-#include "Terminal.hpp"
+
+#include <banking/BankError.hpp>
+#include <foundation/Date.hpp>
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QTextStream>
 #include <QTranslator>
 
-#include <cerrno>
 #include <cstdio>
 #include <new>
-#include <unistd.h>
 
 namespace {
 
@@ -50,7 +49,7 @@ void installTranslators()
     return;
   }
   QCoreApplication::installTranslator(own);
-  for (auto const& name : {share.filePath("../../orv-banking/translations/orv-banking_"),
+  for (auto const& name : {share.filePath(LIBRARY_TRANSLATIONS) + "/orv-banking_",
                            QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_"}) {
     auto* const other = new QTranslator(QCoreApplication::instance());
     if (other->load(name + own->language())) {
@@ -59,75 +58,54 @@ void installTranslators()
   }
 }
 
-// Reads a line with its end; it is empty at the end of the file. Throws for a line that is too long, when
-// all of it has been read.
-QByteArray readLine(QFile& file)
+// Carries out the lines of a book, one by one; `name` stands before what there is to tell of each.
+int run(QByteArray const& content, QString const& name, QDir const& folder, bool isStrict)
 {
-  constexpr qsizetype longest = 1024 * 1024;
-  static QByteArray buffer(longest + 2, Qt::Uninitialized); // for a line feed and Qt's NUL, too
-  auto const read = [&] {
-    return buffer.first(qMax(0, file.readLine(buffer.data(), buffer.size())));
-  };
-  auto line = read();
-  if (line.size() <= longest || line.endsWith('\n')) {
-    return line;
-  }
-  while (!line.isEmpty() && !line.endsWith('\n')) {
-    line = read();
-  }
-  throw BookError(Book::tr("The line is longer than 1 MiB."));
-}
-
-// Carries out the lines of `file`, one by one; `name` stands before each refusal. At a prompt, what guides
-// a person is kept apart from the results, which may go elsewhere.
-int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
-{
-  Book book{QFileInfo(name).absoluteDir()}; // the current one for standard input
-  auto const guide = [&](QString const& text) {
-    if (isAtPrompt) {
-      QTextStream(stderr) << text;
-    }
-  };
-  guide(
-      Book::tr("Type help for the commands, or quit to leave. Nothing is kept unless you keep the "
-               "lines that print shows.") +
-      u'\n');
-  int done = 0; // of the lines that hold a command
+  Book book{folder};
+  QMap<orv::accounting::AccountNumber, QString> places; // where each account was reconciled last
+  int done = 0;                                         // of the lines that hold a command
   int refused = 0;
-  for (int number = 1;; ++number) {
-    guide(QStringLiteral("bankbook> "));
+  int number = 0;
+  for (auto const& line : content.split('\n')) {
+    auto const place = QStringLiteral("%1:%2: ").arg(name, QString::number(++number));
+    QString refusal;
     try {
-      auto const line = readLine(file);
       auto const words = toWords(toText(line));
-      if (line.isEmpty() || (isAtPrompt && words == QStringList{"quit"})) {
-        break;
-      }
-      auto const shown = execute(book, words);
+      auto const answer = execute(book, words);
       done += words.isEmpty() ? 0 : 1;
-      if (isAtPrompt && words.value(0) == u"help") {
-        guide(shown);
-      } else if (!shown.isEmpty() && show(shown) != allDone) {
+      for (auto const& message : answer.messages) {
+        tell(place + message);
+      }
+      for (auto const& account : answer.reconciled) {
+        places[account] = place;
+      }
+      if (!answer.table.isEmpty() && show(answer.table) != allDone) {
         return notRun;
       }
-    } catch (std::bad_alloc const&) {
-      throw;
-    } catch (std::exception const& refusal) {
-      tell(QStringLiteral("%1:%2: %3").arg(name, QString::number(number), refusal.what()));
+    } catch (BookError const& error) {
+      refusal = error.what();
+    } catch (orv::banking::BankError const& error) {
+      refusal = error.what();
+    }
+    if (!refusal.isEmpty()) {
+      tell(place + refusal);
+      ++refused;
       if (isStrict) {
         return linesRefused;
       }
-      ++refused;
     }
   }
-  guide(QStringLiteral("\n"));
-  if (file.error() != QFile::NoError) {
-    return tell(unreadable(file, name).what());
+  for (auto const& [account, place] : places.asKeyValueRange()) {
+    if (auto const day = book.balances.value(account).occurredOn; day > QDate::currentDate()) {
+      tell(place +
+           filled(Book::tr("The date %1 of the account number %2 lies in the future. To take "
+                           "it back: forget %2"),
+                  orv::foundation::presentationText(day), presentationText(account)));
+    }
   }
-  if (refused > 0 && !isAtPrompt) {
-    auto const text = refused > 10
-                          ? Book::tr("%1 of %2 lines were refused; --strict stops at the first.")
-                          : Book::tr("%1 of %2 lines were refused.");
-    tell(text.arg(QString::number(refused), QString::number(done + refused)));
+  if (refused > 0) {
+    tell(filled(Book::tr("%1 of %2 lines were refused."), QString::number(refused),
+                QString::number(done + refused)));
   }
   return refused == 0 ? allDone : linesRefused;
 }
@@ -136,9 +114,6 @@ int run(QFile& file, QString const& name, bool isStrict, bool isAtPrompt)
 
 int main(int argc, char* argv[])
 {
-  errno = 0;
-  auto const isTerminal = isatty(fileno(stdin)) != 0;
-  auto const isClosed = !isTerminal && errno == EBADF; // and free for the next file that is opened
   QCoreApplication const application(argc, argv);
   qInstallMessageHandler([](QtMsgType type, QMessageLogContext const& context,
                             QString const& text) { tell(qFormatLogMessage(type, context, text)); });
@@ -152,7 +127,7 @@ int main(int argc, char* argv[])
     auto const name = early.value(localeOption).section(u'.', 0, 0).section(u'@', 0, 0);
     QLocale::setDefault(QLocale(name)); // C for one that is not known
     if (QLocale().language() == QLocale::C && name != u"C" && name != u"POSIX") {
-      return tell(Book::tr("There is no locale '%1'.").arg(name));
+      return tell(filled(Book::tr("There is no locale '%1'."), name));
     }
   }
   installTranslators();
@@ -163,16 +138,12 @@ int main(int argc, char* argv[])
                                    "\n\n" + usage());
   parser.addOptions({
       localeOption,
-      {"quiet", Book::tr("Do not report the changes of banks.")},
-      {"verbose", Book::tr("Report the changes of banks, at the prompt too.")},
+      {"verbose", Book::tr("Report the changes of banks.")},
       {"strict", Book::tr("Stop at the first line that is refused.")},
       {{"h", "help"}, Book::tr("Show this help.")},
   });
   parser.addVersionOption();
-  auto const file = Book::tr("FILE");
-  parser.addPositionalArgument(file,
-                               Book::tr("The book. Without it, or with -, standard input is read."),
-                               u'[' + file + u']');
+  parser.addPositionalArgument(Book::tr("FILE"), Book::tr("The book, or - for standard input."));
   if (!parser.parse(QCoreApplication::arguments())) {
     return tell(parser.errorText());
   }
@@ -180,26 +151,25 @@ int main(int argc, char* argv[])
     return show(parser.isSet("help") ? parser.helpText() : "bankbook " BANKBOOK_VERSION "\n");
   }
   auto const files = parser.positionalArguments();
-  if (files.size() > 1) {
-    return tell(Book::tr("Only one book can be read at a time."));
+  if (files.size() != 1) {
+    QTextStream(stderr) << parser.helpText();
+    return notRun;
   }
-
-  auto const readsStandardInput = files.isEmpty() || files.first() == u"-";
-  if (readsStandardInput && isClosed) {
-    return tell(Book::tr("Standard input is closed."));
-  }
-  auto const isAtPrompt = readsStandardInput && isTerminal;
-  if (parser.isSet("quiet") || (isAtPrompt && !parser.isSet("verbose"))) {
+  if (!parser.isSet("verbose")) {
     QLoggingCategory::setFilterRules("default.info=false");
   }
-  auto const name = readsStandardInput ? Book::tr("standard input") : files.first();
-  QFile book(name);
-  if (!(readsStandardInput ? book.open(fileno(stdin), QIODevice::ReadOnly)
-                           : book.open(QIODevice::ReadOnly))) {
-    return tell(unreadable(book, name).what());
+
+  auto const isStandardInput = files[0] == u"-";
+  QFile book(pathOf(QDir(), files[0]));
+  if (isStandardInput) {
+    book.open(fileno(stdin), QIODevice::ReadOnly);
   }
+  auto const name = isStandardInput ? Book::tr("standard input") : files[0];
+  auto const folder = isStandardInput ? QDir() : QFileInfo(book).absoluteDir();
   try {
-    return run(book, name, parser.isSet("strict"), isAtPrompt);
+    return run(contentOf(book, name), name, folder, parser.isSet("strict"));
+  } catch (BookError const& error) {
+    return tell(error.what());
   } catch (std::bad_alloc const&) { // when the book is gone, and its memory with it
     return tell(Book::tr("There is not enough memory."));
   }

@@ -1,37 +1,62 @@
 #include "Book.hpp"
 
 #include "BookReader.hpp"
+#include "Data.hpp"
 #include "support/Testing.hpp"
 
-static QString answer(Book& book, QByteArray const& line)
+static QString answer(Book& book, QString const& line)
 {
   try {
-    return execute(book, toWords(toText(line)));
-  } catch (std::exception const& refusal) {
-    return refusal.what() + QString("\n");
+    auto const [table, messages, reconciled] = execute(book, toWords(toText(line.toUtf8())));
+    return messages.join('\n') + table.trimmed();
+  } catch (BookError const& refusal) {
+    return refusal.what();
+  } catch (BankError const& refusal) {
+    return refusal.what();
   }
 }
 
-// Each line after "> " is carried out, and its answer follows. What is printed at the end makes the same
-// book again.
-TEST(Book, AnswersAsInTheTranscripts)
+class Transcript : public testing::TestWithParam<std::string>
 {
-  QDir const folder(TRANSCRIPTS);
-  for (auto const* const name :
-       {"balances", "identifiers", "printing", "refusals", "statements", "words"}) {
-    QFile file(folder.filePath(QString(name) + ".txt"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    Book book{folder};
-    for (auto const& exchange : ('\n' + QString::fromUtf8(file.readAll())).split("\n> ").mid(1)) {
-      auto const line = exchange.section('\n', 0, 0);
-      EXPECT_EQ(answer(book, line.toUtf8()).trimmed(), exchange.section('\n', 1).trimmed())
-          << line.toStdString();
+};
+
+// Each line after "> " is carried out, and its answer follows.
+TEST_P(Transcript, HasTheAnswers)
+{
+  auto const name = QString::fromStdString("transcripts/" + GetParam() + ".txt");
+  Book book{QDir(DATA "/transcripts")};
+  int number = 1;
+  for (auto const& exchange : ('\n' + textOf(name)).split("\n> ").mid(1)) {
+    auto const expected = coded(exchange.section('\n', 1).trimmed());
+    auto const given = coded(answer(book, exchange.section('\n', 0, 0)));
+    if (given != expected) {
+      ADD_FAILURE_AT((DATA "/" + name).toUtf8(), number) << given << "\nis the answer, not\n"
+                                                         << expected;
     }
-    Book again;
-    for (auto const& line : answer(book, "print").toUtf8().split('\n')) {
-      answer(again, line);
-    }
-    EXPECT_EQ(answer(again, "print") + answer(again, "list"),
-              answer(book, "print") + answer(book, "list"));
+    number += static_cast<int>(exchange.count('\n')) + 1;
   }
+}
+
+INSTANTIATE_TEST_SUITE_P(Book, Transcript, testing::ValuesIn(filesIn("transcripts")),
+                         [](auto const& info) { return plain(info.param); });
+
+// What the form finds in a text.
+static QStringList found(QString const& text, char const* form)
+{
+  QStringList texts;
+  QRegularExpression const expression(form, QRegularExpression::MultilineOption);
+  for (auto matches = expression.globalMatch(text); matches.hasNext();) {
+    texts += matches.next().captured(1);
+  }
+  texts.sort();
+  texts.removeDuplicates();
+  return texts;
+}
+
+TEST(Commands, StandInTheManualPageAndInTheFuzzersCorpus)
+{
+  auto const page = textOf("../../bankbook/bankbook.1.in").remove('\\');
+  auto const corpus = textOf("../../fuzz/corpus/book/every-command");
+  EXPECT_EQ(found(page, "^\\.B ([a-z].*)$"), found(usage(), "^  ([a-z].*)$"));
+  EXPECT_EQ(found(corpus, "^([a-z]+)"), found(usage(), "^  ([a-z]+)"));
 }

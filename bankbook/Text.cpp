@@ -1,8 +1,10 @@
-#include "Terminal.hpp"
+#include "Text.hpp"
 
 #include <QRegularExpression>
 
 #include <utf8proc.h>
+
+namespace {
 
 bool isPrintable(char32_t c)
 {
@@ -13,7 +15,10 @@ bool isPrintable(char32_t c)
                       category != QChar::Separator_Line && category != QChar::Separator_Paragraph);
 }
 
-namespace {
+QString codeOf(char32_t c)
+{
+  return QStringLiteral("\\u{%1}").arg(QString::number(c, 16).toUpper());
+}
 
 // In columns of a terminal.
 qsizetype widthOf(QString const& text)
@@ -27,14 +32,48 @@ qsizetype widthOf(QString const& text)
 
 } // namespace
 
+QString toPlain(QString text)
+{
+  for (auto& c : text) {
+    if (c == u'\t' || c.category() == QChar::Separator_Space) {
+      c = u' ';
+    }
+  }
+  for (auto const c : text.toStdU32String()) {
+    if (!isPrintable(c)) {
+      auto const hint = BookError::tr("The character %1 cannot be shown; save the file as UTF-8, "
+                                      "with lines that end with LF or CR LF.");
+      auto const isOfFile = c == 0 || c == '\r'; // which UTF-16 has, or lines that end with CR
+      throw BookError(isOfFile ? hint : BookError::tr("The character %1 cannot be shown."),
+                      codeOf(c));
+    }
+  }
+  return text;
+}
+
 QString printable(QString const& text)
 {
   QString shown;
   for (auto const c : text.toStdU32String()) {
-    shown += isPrintable(c) ? QString::fromUcs4(&c, 1)
-                            : QStringLiteral("\\u{%1}").arg(QString::number(c, 16).toUpper());
+    shown += isPrintable(c) ? QString::fromUcs4(&c, 1) : codeOf(c);
   }
   return shown;
+}
+
+QString shown(QString const& value)
+{
+  auto const characters = value.toStdU32String();
+  return characters.size() <= 100 ? value
+                                  : QString::fromStdU32String(characters.substr(0, 100)) + u'…';
+}
+
+QString shown(QStringList const& values)
+{
+  QString list;
+  for (auto const& value : values.mid(0, 10)) {
+    list += (list.isEmpty() ? QString() : QStringLiteral(", ")) + shown(value);
+  }
+  return values.size() > 10 ? list + QStringLiteral(", …") : list;
 }
 
 QString toTable(QList<QStringList> rows, QByteArrayView alignments)
