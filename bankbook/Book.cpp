@@ -38,9 +38,8 @@ Bank toBank(Words const& words)
       throw writtenOtherwise(words[0]);
     }
     auto const number = word.section(u'=', 0, 0);
-    if (!accounts.emplace(toAccountNumber(number), toKind(kind)).second) {
-      throw BookError(Book::tr("The account number %1 is given twice."), number);
-    }
+    refuseIf(!accounts.emplace(toAccountNumber(number), toKind(kind)).second,
+             Book::tr("The account number %1 is given twice."), number);
   }
   return Bank(toBankName(words[1]), std::move(accounts), false);
 }
@@ -66,33 +65,6 @@ bool mayBeOne(Identifier const& one, Identifier const& other)
          (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
 }
 
-// How the first of these identifiers are typed: by the ACCTID alone where no other of `among` has it.
-QStringList typed(QStringList identifiers, QStringList const& among)
-{
-  identifiers = identifiers.mid(0, 11); // a message shows ten
-  for (auto& identifier : identifiers) {
-    auto const account = toLine(toWords(identifier).mid(0, 1));
-    auto const isEnough = std::none_of(among.begin(), among.end(), [&](Identifier const& other) {
-      return other != identifier && mayBeOne(other, account);
-    });
-    identifier = isEnough ? account : identifier;
-  }
-  return identifiers;
-}
-
-// The kinds that the bank's type of an account stands for, or `kind` if it has none that is known. A goal is
-// money set aside.
-QList<BankAccountTypes> kindsOf(Identifier const& identifier, BankAccountTypes kind = Unknown)
-{
-  static QMap<QString, QList<BankAccountTypes>> const kinds{
-      {"CHECKING", {Chequeing}},      {"SAVINGS", {Savings, Goal}},
-      {"MONEYMRKT", {Savings, Goal}}, {"CD", {Savings, Goal}},
-      {"CREDITLINE", {Loan}},         {"CMA", {Chequeing, Savings, Goal}},
-      {"CREDITCARD", {CreditCard}},   {"INVESTMENT", {}},
-  };
-  return kinds.value(toWords(identifier).value(2), {kind});
-}
-
 // The account with the number; of the kind `Unknown` if no bank holds it.
 BankAccount find(Book const& book, AccountNumber const& number)
 {
@@ -104,14 +76,24 @@ BankAccount find(Book const& book, AccountNumber const& number)
   return {{}, {number}};
 }
 
-AccountNumberBankType held(Book const& book, AccountNumber const& number)
+BankAccountTypes kindOf(Book const& book, AccountNumber const& number)
 {
-  auto const account = find(book, number).accountNumberBankType;
-  if (account.bankAccountType == Unknown) {
-    throw BookError(Book::tr("No bank holds the account number %1; list shows all."),
-                    presentationText(number));
-  }
-  return account;
+  return find(book, number).accountNumberBankType.bankAccountType;
+}
+
+// Throws if no bank holds the account.
+AccountNumber toHeldNumber(Book const& book, QString const& word)
+{
+  auto const number = toAccountNumber(word);
+  refuseIf(kindOf(book, number) == Unknown,
+           Book::tr("No bank holds the account number %1; list shows all."), word);
+  return number;
+}
+
+// The accounts of a bank; none where there is no such bank.
+Accounts accountsOf(Book const& book, BankName const& name)
+{
+  return book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
 }
 
 // Drops what is known of those accounts that are no longer there, and the identifiers of those that have
@@ -119,7 +101,7 @@ AccountNumberBankType held(Book const& book, AccountNumber const& number)
 void drop(Book& book, Accounts const& before)
 {
   for (auto const& [number, kind] : before) {
-    auto const now = find(book, number).accountNumberBankType.bankAccountType;
+    auto const now = kindOf(book, number);
     if (now == Unknown) {
       book.balances.remove(number);
     }
@@ -129,102 +111,70 @@ void drop(Book& book, Accounts const& before)
   }
 }
 
-// The longer one of this identifier and the one that the account is bound to. Throws where these are of two
-// accounts.
-Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
-{
-  auto const bound = book.identifiers.value(number);
-  if (!mayBeOne(bound, identifier)) {
-    throw BookError(
-        Book::tr("The account number %1 is bound to %2, not to %3; remove it and add it "
-                 "again to bind it anew."),
-        presentationText(number), typed({bound}, {identifier}), typed({identifier}, {bound}));
-  }
-  return bound.size() > identifier.size() ? bound : identifier;
-}
-
-// The accounts of ours that may be bound to it. One without a type stands for accounts of this kind.
+// The accounts of ours of these kinds that may be bound to the identifier.
 QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
-                             BankAccountTypes kind = Unknown)
+                             QList<BankAccountTypes> const& kinds)
 {
   QList<AccountNumber> numbers;
-  auto const kinds = kindsOf(identifier, kind);
   for (auto const& [number, other] : book.identifiers.asKeyValueRange()) {
-    if (mayBeOne(other, identifier) && kinds.contains(held(book, number).bankAccountType)) {
+    if (mayBeOne(other, identifier) && kinds.contains(kindOf(book, number))) {
       numbers += number;
     }
   }
   return numbers;
 }
 
-// Throws where another account of ours may be bound to the identifier.
-void checkIsFree(Book const& book, AccountNumberBankType const& ours, Identifier const& identifier)
+// Throws where the account is bound to another identifier, or another account of these kinds may be bound to
+// this one.
+void checkBinding(Book const& book, AccountNumber const& ours, Identifier const& identifier,
+                  QList<BankAccountTypes> const& kinds)
 {
-  for (auto const& number : boundTo(book, identifier, ours.bankAccountType)) {
-    if (!(number == ours.accountNumber)) {
-      throw BookError(Book::tr("The account number %1 is bound to %2; if this is another account, "
-                               "type the BANKID of both."),
-                      presentationText(number), book.identifiers.value(number));
-    }
+  auto const text = Book::tr("The account number %1 is bound to %2. For another account, add its "
+                             "ACCTTYPE and BANKID; to bind it anew, remove it and add it again.");
+  auto const bound = book.identifiers.value(ours);
+  refuseIf(!mayBeOne(bound, identifier), text, presentationText(ours), bound);
+  for (auto const& number : boundTo(book, identifier, kinds)) {
+    refuseIf(!(number == ours), text, presentationText(number), book.identifiers.value(number));
   }
 }
 
-// The account that the identifier stands for in the file, if it is for the kind of ours, and its latest
-// balance.
-std::pair<Identifier, ReconciledBalance>
-balanceFor(AccountNumberBankType const& ours, Statements const& file, Identifier const& identifier)
+// The whole identifier of the account in the file that may be ours and has these identifiers.
+Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& bound,
+                   Identifier const& typed)
 {
-  auto const kind = ours.bankAccountType;
+  auto const account = ours.accountNumberBankType;
   auto found = file.keys();
   found.removeIf([&](Identifier const& whole) {
-    return !mayBeOne(identifier, whole) || !kindsOf(whole, kind).contains(kind);
+    return !mayBeOne(bound, whole) || !mayBeOne(typed, whole) ||
+           !file[whole].kinds.contains(account.bankAccountType);
   });
-  if (found.size() > 1) {
-    throw BookError(Book::tr("The file has several such accounts; add one at the end: %1."),
-                    typed(found, file.keys()));
-  }
-  auto const whole = found.value(0);
-  ReconciledBalance latest;
-  for (auto const& [balance, fault] : file.value(whole)) {
-    if (!fault.isEmpty()) {
-      throw BookError(fault);
-    }
-    latest = latest.occurredOn < balance.occurredOn ? balance : latest;
-  }
-  if (found.isEmpty() || !kindsOf(whole).contains(kind)) {
-    throw BookError(Book::tr("The file has no statement for %1; it has: %2."),
-                    (presentationText(ours, Yes) + u' ' + identifier).trimmed(), file.keys());
-  }
-  for (auto const& [balance, fault] : file.value(whole)) {
-    if (balance.occurredOn == latest.occurredOn && !(balance.balance == latest.balance)) {
-      throw BookError(Book::tr("The file has two balances of %1 on %2: %3 and %4."), whole,
-                      presentationText(latest.occurredOn), presentationText(latest.balance),
-                      presentationText(balance.balance));
-    }
-  }
-  return {whole, latest};
+  auto const sought = presentationText(account, Yes) + u' ' + (bound.isEmpty() ? typed : bound);
+  refuseIf(found.isEmpty(), Book::tr("The file has no statement for %1; it has: %2."),
+           sought.trimmed(), file.keys());
+  refuseIf(found.size() > 1,
+           Book::tr("The file has several such accounts; add one at the end: %1."), found);
+  return found[0];
 }
 
 // What is known of the account once it is reconciled. Throws where it must not be.
-ReconciledBalance reconciled(Book const& book, AccountNumber const& number,
+ReconciledBalance reconciled(Book const& book, BankAccount const& account,
                              ReconciledBalance const& next)
 {
-  held(book, number);
-  auto const last = book.balances.value(number, next); // the first is of any day and currency
-  ReconciledBankAccount account(find(book, number), last.balance, last.occurredOn);
-  if (!(last.balance.currency() == next.balance.currency())) {
-    throw BookError(Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
-                             "forget %1"),
-                    presentationText(number), last.balance.currency().isoCode(),
-                    next.balance.currency().isoCode());
-  }
+  auto const number = presentationText(account.accountNumberBankType.accountNumber);
+  auto const last = // the first is of any day and currency
+      book.balances.value(account.accountNumberBankType.accountNumber, next);
+  ReconciledBankAccount updated(account, last.balance, last.occurredOn);
+  refuseIf(!(last.balance.currency() == next.balance.currency()),
+           Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
+                    "forget %1"),
+           number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
-    account.reconcile(next.occurredOn, next.balance);
+    updated.reconcile(next.occurredOn, next.balance);
   } catch (BankError const& refusal) {
     auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
-    throw BookError(text.arg(QString::fromUtf8(refusal.what()), presentationText(number)));
+    throw BookError(text.arg(QString::fromUtf8(refusal.what()), number));
   }
-  return {account.balance(), *account.reconciledOn()};
+  return {updated.balance(), *updated.reconciledOn()};
 }
 
 // The commands. Each takes its words, of which the first is its own name.
@@ -233,9 +183,9 @@ void add(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toAccountNumber(words[2]);
   auto const kind = toKind(words[3]);
-  auto const before = find(book, number).accountNumberBankType;
+  Accounts const before{{number, kindOf(book, number)}};
   book.banks.add(toBankName(words[1]), number, kind);
-  drop(book, {{number, before.bankAccountType}});
+  drop(book, before);
 }
 
 void addBank(Book& book, Words const& words, Answer& /*answer*/)
@@ -250,18 +200,18 @@ void close(Book& book, Words const& words, Answer& /*answer*/)
 
 void forget(Book& book, Words const& words, Answer& /*answer*/)
 {
-  auto const account = held(book, toAccountNumber(words[1]));
-  if (book.balances.remove(account.accountNumber) == 0) {
-    throw BookError(Book::tr("Nothing is recorded of %1."), presentationText(account, Yes));
-  }
+  refuseIf(book.balances.remove(toHeldNumber(book, words[1])) == 0,
+           Book::tr("Nothing is recorded of the account number %1."), words[1]);
 }
 
 void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
-  auto const account = held(book, toAccountNumber(words[1]));
-  auto const identifier = longer(book, account.accountNumber, toIdentifier(words, 2));
-  checkIsFree(book, account, identifier);
-  book.identifiers[account.accountNumber] = identifier;
+  auto const number = toHeldNumber(book, words[1]);
+  auto const identifier = toIdentifier(words, 2);
+  checkBinding(book, number, identifier, {kindOf(book, number)});
+  if (identifier.size() > book.identifiers.value(number).size()) {
+    book.identifiers[number] = identifier;
+  }
 }
 
 void list(Book& book, Words const& /*words*/, Answer& answer)
@@ -293,14 +243,14 @@ void open(Book& book, Words const& words, Answer& /*answer*/)
 void reconcile(Book& book, Words const& words, Answer& answer)
 {
   for (qsizetype i = 1; i < words.size(); ++i) {
-    if ((i != 2 && QDate::fromString(words[i], Qt::ISODate).isValid()) ||
-        (i != 4 && isCurrency(words[i]))) {
-      throw BookError(Book::tr("'%1' stands in the wrong place: %2"), words[i], usageOf(words[0]));
-    }
+    refuseIf((i != 2 && QDate::fromString(words[i], Qt::ISODate).isValid()) ||
+                 (i != 4 && isCurrency(words[i])),
+             Book::tr("'%1' stands in the wrong place: %2"), words[i], usageOf(words[0]));
   }
-  auto const number = toAccountNumber(words[1]);
+  auto const number = toHeldNumber(book, words[1]);
   auto const date = toDate(words[2]);
-  book.balances[number] = reconciled(book, number, {toMoney(words[3], words[4]), date});
+  auto const money = toMoney(words[3], words[4]);
+  book.balances[number] = reconciled(book, find(book, number), {money, date});
   answer.reconciled = {number};
 }
 
@@ -308,14 +258,13 @@ void remove(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const name = toBankName(words[1]);
   if (words.size() == 2) {
-    auto const before = book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+    auto const before = accountsOf(book, name);
     book.banks.remove(name);
     drop(book, before);
   } else {
     auto const number = toAccountNumber(words[2]);
     book.banks.remove(name, number);
-    book.identifiers.remove(number);
-    book.balances.remove(number);
+    drop(book, {{number, Goal}}); // or any other kind
   }
 }
 
@@ -336,45 +285,45 @@ void statement(Book& book, Words const& words, Answer& answer)
   auto const statements = readOfx(contentOf(file, fileName));
   auto const all = statements.keys();
   for (auto const& whole : all) {
-    answer.reconciled += isOfAll ? boundTo(book, whole) : QList<AccountNumber>();
+    answer.reconciled += boundTo(book, whole, statements[whole].kinds);
   }
   if (!isOfAll) {
-    answer.reconciled = {toAccountNumber(words[1])};
+    answer.reconciled = {toHeldNumber(book, words[1])};
   }
-
-  auto next = std::pair(book.identifiers, book.balances); // with all that there is to take
+  auto const typed = toIdentifier(words, isOfAll ? 2 : 3);
+  auto identifiers = book.identifiers;
+  auto balances = book.balances;
   for (auto const& number : answer.reconciled) {
-    auto const account = held(book, number);
-    auto const sought = longer(book, number, toIdentifier(words, isOfAll ? 2 : 3));
-    auto const [identifier, balance] = balanceFor(account, statements, sought);
-    checkIsFree(book, account, identifier);
-    next.first[number] = identifier;
-    next.second[number] = reconciled(book, number, balance);
+    auto const account = find(book, number);
+    auto const whole = wholeOf(account, statements, identifiers.value(number), typed);
+    auto const& [kinds, balance, fault] = statements[whole];
+    checkBinding(book, number, whole, kinds);
+    refuseIf(!fault.isEmpty(), fault);
+    identifiers[number] = whole;
+    balances[number] = reconciled(book, account, balance);
     answer.messages +=
         filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
-               presentationText(account, Yes), typed({identifier}, all),
+               presentationText(account.accountNumberBankType, Yes), whole,
                presentationText(balance.occurredOn), presentationText(balance.balance));
   }
-  std::tie(book.identifiers, book.balances) = next;
+  book.identifiers = identifiers; // Either all is taken, or nothing.
+  book.balances = balances;
 
-  auto const known = all + book.identifiers.values();
   auto others = all;
-  others.removeIf([&](Identifier const& whole) { return !boundTo(book, whole).isEmpty(); });
+  others.removeIf(
+      [&](auto const& whole) { return !boundTo(book, whole, statements[whole].kinds).isEmpty(); });
   auto const text =
       Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
-  if (answer.reconciled.isEmpty()) {
-    throw BookError(text, typed(others, known));
-  }
+  refuseIf(answer.reconciled.isEmpty(), text, others);
   if (!others.isEmpty()) {
-    answer.messages += filled(text, typed(others, known));
+    answer.messages += filled(text, others);
   }
 }
 
 void update(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const bank = toBank(words);
-  auto const name = bank.name();
-  auto const before = book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+  auto const before = accountsOf(book, bank.name());
   book.banks.update(bank);
   drop(book, before);
 }
@@ -424,7 +373,7 @@ QString usage()
                   "  DATE        such as 2026-10-31\n"
                   "  AMOUNT      such as -1250.50, with a point and nothing between thousands\n"
                   "  CURRENCY    such as CAD\n"
-                  "  IDENTIFIER  ACCTID [BANKID [ACCTTYPE]], as the file has them\n");
+                  "  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them\n");
 }
 
 Answer execute(Book& book, QStringList const& words)
@@ -432,9 +381,8 @@ Answer execute(Book& book, QStringList const& words)
   Answer answer;
   if (!words.isEmpty()) {
     auto const found = commands.find(words[0]);
-    if (found == commands.end()) {
-      throw BookError(Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
-    }
+    refuseIf(found == commands.end(),
+             Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
     auto const& [fewest, most, function, usage] = found->second;
     if (words.size() <= fewest || words.size() - 1 > most) {
       throw writtenOtherwise(words[0]);

@@ -15,9 +15,7 @@ QString toText(QByteArrayView line)
   line.chop(line.endsWith('\r') ? 1 : 0);
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString const text = decode(line);
-  if (decode.hasError()) {
-    throw BookError(BookError::tr("The line is not UTF-8 text; save the book as UTF-8."));
-  }
+  refuseIf(decode.hasError(), BookError::tr("The line is not UTF-8 text; save the book as UTF-8."));
   return toPlain(text);
 }
 
@@ -45,9 +43,7 @@ QStringList toWords(QString const& line)
       word += isEscape ? next : c;
     }
   }
-  if (inQuotes) {
-    throw BookError(BookError::tr("A quoted word does not end; close it with a straight quote."));
-  }
+  refuseIf(inQuotes, BookError::tr("A quoted word does not end; close it with a straight quote."));
   return inWord ? words << word : words;
 }
 
@@ -65,9 +61,7 @@ QString toLine(QStringList words)
 
 orv::banking::BankName toBankName(QString const& word)
 {
-  if (shown(word) != word) {
-    throw BookError(BookError::tr("The name '%1' has more than 100 characters."), word);
-  }
+  refuseIf(shown(word) != word, BookError::tr("The name '%1' has more than 100 characters."), word);
   return orv::banking::BankName(word);
 }
 
@@ -77,9 +71,8 @@ orv::accounting::AccountNumber toAccountNumber(QString const& word)
   static QRegularExpression const digits(QStringLiteral("^[0-9]+$"));
   bool fits = false;
   auto const integer = word.toUInt(&fits);
-  if (!fits || !digits.match(word).hasMatch()) {
-    throw BookError(BookError::tr("'%1' is not an account number such as 1010."), word);
-  }
+  refuseIf(!fits || !digits.match(word).hasMatch(),
+           BookError::tr("'%1' is not an account number such as 1010."), word);
   return orv::accounting::AccountNumber(integer);
 }
 
@@ -98,9 +91,7 @@ QDate toDate(QString const& word)
 {
   static QRegularExpression const form(QStringLiteral("^([0-9]{4})-([0-9]{2})-([0-9]{2})$"));
   auto const day = toDay(form.match(word));
-  if (!day.isValid()) {
-    throw BookError(BookError::tr("'%1' is not a date such as 2026-01-31."), word);
-  }
+  refuseIf(!day.isValid(), BookError::tr("'%1' is not a date such as 2026-01-31."), word);
   return day;
 }
 
@@ -118,36 +109,29 @@ bool isCurrency(QString const& word)
 Money toMoney(QString const& amount, QString const& currency)
 {
   static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
-  static std::pair<QRegularExpression, char const*> const faults[]{
-      {QRegularExpression(QStringLiteral("^([+−–(]|--)|[-−–)]$")),
+  static std::pair<QString, char const*> const faults[]{
+      {"^([+−–(]|--)|[-−–)]$",
        QT_TRANSLATE_NOOP("BookError", "The sign of '%1' is wrong; only what you owe has one, -.")},
-      {QRegularExpression(QStringLiteral("^-?[0-9]*,[0-9]+$")),
-       QT_TRANSLATE_NOOP("BookError",
-                         "'%1' has a comma; decimals follow a point, and nothing stands "
-                         "between thousands.")},
-      {QRegularExpression(QStringLiteral("[0-9][.,'’ ][0-9]{3}([.,]|$)")),
+      {"^-?[0-9]*,[0-9]+$",
+       QT_TRANSLATE_NOOP("BookError", "'%1' has a comma; decimals follow a point, and nothing "
+                                      "stands between thousands.")},
+      {"[0-9][.,'’ ][0-9]{3}([.,]|$)",
        QT_TRANSLATE_NOOP("BookError", "'%1' has separators; nothing stands between thousands.")},
-      {QRegularExpression(), QT_TRANSLATE_NOOP("BookError", "'%1' is no amount such as -1250.50.")},
+      {"", QT_TRANSLATE_NOOP("BookError", "'%1' is no amount such as -1250.50.")},
   };
-  if (!isCurrency(currency)) {
-    throw BookError(BookError::tr("'%1' is not a currency such as CAD."), currency);
-  }
+  refuseIf(!isCurrency(currency), BookError::tr("'%1' is not a currency such as CAD."), currency);
   mintar::Currency const known(currency);
   auto const parts = form.match(amount);
   for (auto const& [fault, text] : faults) {
-    if (!parts.hasMatch() && fault.match(amount).hasMatch()) {
-      throw BookError(BookError::tr(text), amount);
-    }
+    refuseIf(!parts.hasMatch() && amount.contains(QRegularExpression(fault)), BookError::tr(text),
+             amount);
   }
-  if (parts.captured(3).size() > known.decimals()) {
-    throw BookError(BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "
-                                  "between thousands."),
-                    amount, currency, QString::number(known.decimals()));
-  }
+  refuseIf(parts.captured(3).size() > known.decimals(),
+           BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "
+                         "between thousands."),
+           amount, currency, QString::number(known.decimals()));
   auto const money = exactMoney(parts, known);
-  if (!money) {
-    throw BookError(BookError::tr("'%1' is too large."), amount);
-  }
+  refuseIf(!money, BookError::tr("'%1' is too large."), amount);
   return *money;
 }
 

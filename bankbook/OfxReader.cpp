@@ -2,6 +2,8 @@
 
 #include "BookReader.hpp"
 
+#include <foundation/Date.hpp>
+
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
@@ -9,6 +11,9 @@
 #include <algorithm>
 #include <string_view>
 #include <utility>
+
+using enum orv::banking::BankAccountTypes;
+using orv::foundation::presentationText; // of a date
 
 namespace {
 
@@ -64,13 +69,18 @@ QString toValue(std::string_view bytes)
 // What is read of a statement, by element. The elements of its balance are named like LEDGERBAL/BALAMT.
 using Values = QMap<QString, QString>;
 
+// What the bank's type of an account stands for. A goal is money set aside.
+QMap<QString, QList<orv::banking::BankAccountTypes>> const kindsOfTypes{
+    {"CHECKING", {Chequeing}},    {"SAVINGS", {Savings, Goal}}, {"MONEYMRKT", {Savings, Goal}},
+    {"CD", {Savings, Goal}},      {"CREDITLINE", {Loan}},       {"CMA", {Chequeing, Savings, Goal}},
+    {"CREDITCARD", {CreditCard}}, {"INVESTMENT", {}},
+};
+
 // Throws where the bank reports an error.
 void checkStatus(Values const& values)
 {
-  if (values["SEVERITY"].toUpper() == u"ERROR") {
-    throw BookError(BookError::tr("The bank reports an error: %1"),
-                    values.value("MESSAGE", values["CODE"]));
-  }
+  refuseIf(values["SEVERITY"].toUpper() == u"ERROR", BookError::tr("The bank reports an error: %1"),
+           values.value("MESSAGE", values["CODE"]));
 }
 
 // Throws where a value is missing or cannot be read, in the bank's own spelling.
@@ -85,26 +95,20 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
   toPlain(QStringList(values.values()).join(u' '));
   for (QString const element :
        {"ACCTID", "ACCTTYPE", "CURDEF", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
-    if (values[element].isEmpty()) {
-      throw BookError(BookError::tr("The statement has no %1."), element);
-    }
+    refuseIf(values[element].isEmpty(), BookError::tr("The statement has no %1."), element);
   }
+  auto const unreadable = BookError::tr("The statement's %1 '%2' cannot be read.");
   mintar::Currency const currency(values["CURDEF"]);
   auto const amount = amountForm.match(values["LEDGERBAL/BALAMT"]);
-  if (amount.captured(3).size() == 3 && currency.decimals() != 3) {
-    throw BookError(BookError::tr("The statement's BALAMT '%1' has three decimals, or thousands."),
-                    amount.captured());
-  }
+  refuseIf(amount.captured(3).size() == 3 && currency.decimals() != 3,
+           BookError::tr("The statement's BALAMT '%1' has three decimals, or thousands."),
+           amount.captured());
   auto const balance = amount.hasMatch() ? exactMoney(amount, currency) : std::nullopt;
   auto const day = toDay(dateForm.match(values["LEDGERBAL/DTASOF"]));
-  auto const* const wrong = !isCurrency(currency.isoCode()) ? "CURDEF"
-                            : !balance                      ? "LEDGERBAL/BALAMT"
-                            : !day.isValid()                ? "LEDGERBAL/DTASOF"
-                                                            : nullptr;
-  if (wrong != nullptr) {
-    throw BookError(BookError::tr("The statement's %1 '%2' cannot be read."), QString(wrong),
-                    values[wrong]);
-  }
+  refuseIf(!isCurrency(currency.isoCode()), unreadable, "CURDEF", currency.isoCode());
+  refuseIf(!balance, unreadable, "BALAMT", values["LEDGERBAL/BALAMT"]);
+  refuseIf(!day.isValid(), unreadable, "DTASOF", values["LEDGERBAL/DTASOF"]);
+  refuseIf(!kindsOfTypes.contains(values["ACCTTYPE"]), unreadable, "ACCTTYPE", values["ACCTTYPE"]);
   return {*balance, day};
 }
 
@@ -157,32 +161,34 @@ Statements readOfx(QByteArray const& bytes)
     } else if (!value.isEmpty() && !tag.isEnd) {
       auto& values = path.endsWith(u"/STATUS/") ? status : statements.last();
       isDamaged = values.contains(value); // What is said twice is damaged.
-      values[value] = toValue(text);
+      values[value] = value == u"ACCTTYPE" ? toValue(text).toUpper() : toValue(text);
       open = tag.name;
     } else if (!value.isEmpty() || !before.isEmpty() || narrow.match(path).hasMatch()) {
       isDamaged = (!value.isEmpty() && before != tag.name) || !toValue(text).isEmpty();
     }
   }
-  if (isDamaged || path != u"/") {
-    throw BookError(BookError::tr("The file is cut short, damaged, or several files in one."));
-  }
-  if (bytes.trimmed().isEmpty()) {
-    throw BookError(BookError::tr("The file is empty."));
-  }
-  if (!isOfx) {
-    toPlain(QString(bytes.contains('\0') ? 1 : 0, u'\0')); // which UTF-16 has
-    throw BookError(
-        BookError::tr("The file is not OFX; download the statement as OFX, QFX or Money, "
-                      "not as PDF, CSV or QIF."));
-  }
+  refuseIf(isDamaged || path != u"/",
+           BookError::tr("The file is cut short, damaged, or several files in one."));
+  refuseIf(bytes.trimmed().isEmpty(), BookError::tr("The file is empty."));
+  toPlain(QString(!isOfx && bytes.contains('\0') ? 1 : 0, u'\0')); // which UTF-16 has
+  refuseIf(!isOfx,
+           BookError::tr("The file is not OFX; download the statement as OFX, QFX or Money, "
+                         "not as PDF, CSV or QIF."));
   Statements result;
   for (auto const& values : statements) {
-    auto const type = values["ACCTTYPE"].toUpper();
-    auto& same = result[toLine({values["ACCTID"], values["BANKID"], type})];
+    auto const type = values["ACCTTYPE"];
+    QStringList const whole{values["ACCTID"], type, values["BANKID"]};
+    auto& [kinds, latest, fault] = result[toLine(type == u"CREDITCARD" ? whole.mid(0, 2) : whole)];
+    kinds = kindsOfTypes.value(type, {Chequeing, CreditCard, Loan, Savings, Goal});
     try {
-      same += {toBalance(values), {}};
-    } catch (BookError const& fault) {
-      same += {{}, QString::fromUtf8(fault.what())};
+      auto const next = toBalance(values);
+      refuseIf(next.occurredOn == latest.occurredOn && !(next.balance == latest.balance),
+               BookError::tr("The file has two balances of %1: %2 and %3."),
+               presentationText(next.occurredOn), presentationText(latest.balance),
+               presentationText(next.balance));
+      latest = next.occurredOn > latest.occurredOn ? next : latest;
+    } catch (BookError const& error) {
+      fault = error.what();
     }
   }
   if (result.isEmpty()) {

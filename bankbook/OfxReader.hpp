@@ -1,24 +1,25 @@
 #pragma once
 
+#include <banking/BankAccountTypes.hpp>
 #include <banking/ReconciledBalance.hpp>
 
 #include <QMap>
 #include <QString>
 
-/// What a bank calls an account, as it is typed in a line: its ACCTID, its BANKID and its type. The BANKID is ""
-/// where there is none, as for credit cards. The first, or the first two, stand for every account that has
-/// them.
+/// What a bank calls an account, as it is typed in a line: its ACCTID, its type and, unless it is a credit
+/// card, its BANKID, which may be "". The first, or the first two, stand for every account that has them.
 using Identifier = QString;
 
-/// What a bank's statement says of an account.
+/// What a bank's statements say of an account: the balance of the latest day.
 struct Statement
 {
+  QList<orv::banking::BankAccountTypes> kinds; ///< that the bank's type may stand for
   orv::banking::ReconciledBalance balance;
   QString fault; ///< why it cannot be taken, for the user; empty if it can
 };
 
-/// The statements in a file, by the whole identifiers of their accounts.
-using Statements = QMap<Identifier, QList<Statement>>;
+/// The accounts in a file, by their whole identifiers.
+using Statements = QMap<Identifier, Statement>;
 
 /// Reads the statements in an OFX file's content: SGML (version 1) or XML (version 2), in any encoding that
 /// contains ASCII. Of investments it reads which accounts there are, and nothing else.

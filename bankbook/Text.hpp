@@ -34,6 +34,15 @@ public:
   }
 };
 
+/// Throws `BookError`, with the text that `filled` returns, if something is so.
+template <typename... Values>
+void refuseIf(bool isSo, QString const& text, Values const&... values)
+{
+  if (isSo) {
+    throw BookError(text, values...);
+  }
+}
+
 /// Returns the text with a blank for each tab and each space, no-break spaces among them.
 ///
 /// \throws BookError for a character that a terminal cannot show or would obey: a control character, one that

@@ -112,14 +112,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2, not to %3; remove it and add it again to bind it anew.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to %2; if this is another account, type the BANKID of both.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file has several such accounts; add one at the end: %1.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -128,19 +120,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file has two balances of %1 on %2: %3 and %4.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Nothing is recorded of %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -196,17 +180,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
-quote, \\ a backslash. # begins a comment.
-  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
-  DATE        such as 2026-10-31
-  AMOUNT      such as -1250.50, with a point and nothing between thousands
-  CURRENCY    such as CAD
-  IDENTIFIER  ACCTID [BANKID [ACCTTYPE]], as the file has them
-</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -220,6 +193,25 @@ quote, \\ a backslash. # begins a comment.
     </message>
     <message>
         <source>The book, or - for standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -323,6 +315,10 @@ quote, \\ a backslash. # begins a comment.
     </message>
     <message>
         <source>The character %1 cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

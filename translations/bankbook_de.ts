@@ -112,14 +112,6 @@
         <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2, not to %3; remove it and add it again to bind it anew.</source>
-        <translation>Die Kontonummer %1 ist an %2 gebunden, nicht an %3; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to %2; if this is another account, type the BANKID of both.</source>
-        <translation>Die Kontonummer %1 ist an %2 gebunden; wenn dies ein anderes Konto ist, geben Sie von beiden die BANKID an.</translation>
-    </message>
-    <message>
         <source>The file has several such accounts; add one at the end: %1.</source>
         <translation>Die Datei hat mehrere solche Konten; fügen Sie am Ende eines hinzu: %1.</translation>
     </message>
@@ -128,20 +120,12 @@
         <translation>Die Datei enthält keinen Auszug für %1, sondern: %2.</translation>
     </message>
     <message>
-        <source>The file has two balances of %1 on %2: %3 and %4.</source>
-        <translation>Die Datei enthält zwei Salden von %1 am %2: %3 und %4.</translation>
-    </message>
-    <message>
         <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
         <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3; um das zurückzunehmen: forget %1</translation>
     </message>
     <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation>%1 Um das letzte Datum des Kontos mit der Nummer %2 zurückzunehmen: forget %2</translation>
-    </message>
-    <message>
-        <source>Nothing is recorded of %1.</source>
-        <translation>Für %1 ist nichts erfasst.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; stands in the wrong place: %2</source>
@@ -196,26 +180,6 @@
         <translation>update NAME [NUMMER=ART ...]</translation>
     </message>
     <message>
-        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
-quote, \\ a backslash. # begins a comment.
-  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
-  DATE        such as 2026-10-31
-  AMOUNT      such as -1250.50, with a point and nothing between thousands
-  CURRENCY    such as CAD
-  IDENTIFIER  ACCTID [BANKID [ACCTTYPE]], as the file has them
-</source>
-        <translation>Eine Zeile enthält einen Befehl. Ein Wort mit Leerzeichen steht in geraden Anführungszeichen;
-darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. # beginnt einen Kommentar.
-  NUMMER   eine eigene Nummer für ein Konto, etwa 1010
-  ART      Girokonto, Kreditkarte, Darlehen, Sparkonto oder Sparziel; oder die englischen Wörter
-           Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, die in jeder Sprache gelten
-  DATUM    etwa 2026-10-31
-  BETRAG   etwa -1250.50, mit Punkt und ohne Tausendertrennzeichen; Schulden sind negativ
-  WÄHRUNG  etwa EUR
-  KENNUNG  ACCTID [BANKID [ACCTTYPE]], wie in der Datei
-</translation>
-    </message>
-    <message>
         <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
         <translation>Den Befehl „%1“ gibt es nicht; bankbook --help zeigt alle an.</translation>
     </message>
@@ -230,6 +194,34 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
     <message>
         <source>The book, or - for standard input.</source>
         <translation>Das Haushaltsbuch; bei - die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden. Für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation>Für die Kontonummer %1 ist nichts erfasst.</translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
+        <translation>Eine Zeile enthält einen Befehl. Ein Wort mit Leerzeichen steht in geraden Anführungszeichen;
+darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. # beginnt einen Kommentar.
+  NUMMER   eine eigene Nummer für ein Konto, etwa 1010
+  ART      Girokonto, Kreditkarte, Darlehen, Sparkonto oder Sparziel; oder die englischen Wörter
+           Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, die in jeder Sprache gelten
+  DATUM    etwa 2026-10-31
+  BETRAG   etwa -1250.50, mit Punkt und ohne Tausendertrennzeichen; Schulden sind negativ
+  WÄHRUNG  etwa EUR
+  KENNUNG  ACCTID [ACCTTYPE [BANKID]], wie in der Datei
+</translation>
     </message>
 </context>
 <context>
@@ -333,6 +325,10 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
     <message>
         <source>The character %1 cannot be shown.</source>
         <translation>Das Zeichen %1 kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
+        <translation>Die Datei enthält zwei Salden vom %1: %2 und %3.</translation>
     </message>
 </context>
 </TS>

@@ -112,14 +112,6 @@
         <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2, not to %3; remove it and add it again to bind it anew.</source>
-        <translation>Le numéro de compte %1 est lié à %2, pas à %3; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
-    </message>
-    <message>
-        <source>The account number %1 is bound to %2; if this is another account, type the BANKID of both.</source>
-        <translation>Le numéro de compte %1 est lié à %2; s’il s’agit d’un autre compte, indiquez le BANKID des deux.</translation>
-    </message>
-    <message>
         <source>The file has several such accounts; add one at the end: %1.</source>
         <translation>Le fichier a plusieurs comptes de ce type; ajoutez-en un à la fin&#xa0;: %1.</translation>
     </message>
@@ -128,20 +120,12 @@
         <translation>Le fichier ne contient pas de relevé pour %1, mais&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>The file has two balances of %1 on %2: %3 and %4.</source>
-        <translation>Le fichier contient deux soldes de %1 au %2&#xa0;: %3 et %4.</translation>
-    </message>
-    <message>
         <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
         <translation>Le compte numéro %1 est tenu en %2, pas en %3; pour l’annuler&#xa0;: forget %1</translation>
     </message>
     <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation>%1 Pour annuler la dernière date du compte numéro %2&#xa0;: forget %2</translation>
-    </message>
-    <message>
-        <source>Nothing is recorded of %1.</source>
-        <translation>Rien n’est noté pour %1.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; stands in the wrong place: %2</source>
@@ -196,26 +180,6 @@
         <translation>update NOM [NUMÉRO=TYPE ...]</translation>
     </message>
     <message>
-        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
-quote, \\ a backslash. # begins a comment.
-  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
-  DATE        such as 2026-10-31
-  AMOUNT      such as -1250.50, with a point and nothing between thousands
-  CURRENCY    such as CAD
-  IDENTIFIER  ACCTID [BANKID [ACCTTYPE]], as the file has them
-</source>
-        <translation>Une ligne contient une commande. Un mot avec des espaces se met entre guillemets droits; à
-l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # commence un commentaire.
-  NUMÉRO       votre propre numéro pour un compte, tel que 1010
-  TYPE         Compte-chèques, &quot;Carte de crédit&quot;, Prêt, Épargne ou Objectif; ou les mots anglais
-               Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, qui valent dans toutes les langues
-  DATE         telle que 2026-10-31
-  MONTANT      tel que -1250.50, avec un point et rien entre les milliers; une dette est négative
-  DEVISE       telle que CAD
-  IDENTIFIANT  ACCTID [BANKID [ACCTTYPE]], comme dans le fichier
-</translation>
-    </message>
-    <message>
         <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
         <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; bankbook --help les affiche toutes.</translation>
     </message>
@@ -230,6 +194,34 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
     <message>
         <source>The book, or - for standard input.</source>
         <translation>Le livre de comptes; s’il est remplacé par -, l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation>Le numéro de compte %1 est lié à %2. Pour un autre compte, ajoutez son ACCTTYPE et son BANKID; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation>Rien n’est noté pour le numéro de compte %1.</translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
+        <translation>Une ligne contient une commande. Un mot avec des espaces se met entre guillemets droits; à
+l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # commence un commentaire.
+  NUMÉRO       votre propre numéro pour un compte, tel que 1010
+  TYPE         Compte-chèques, &quot;Carte de crédit&quot;, Prêt, Épargne ou Objectif; ou les mots anglais
+               Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, qui valent dans toutes les langues
+  DATE         telle que 2026-10-31
+  MONTANT      tel que -1250.50, avec un point et rien entre les milliers; une dette est négative
+  DEVISE       telle que CAD
+  IDENTIFIANT  ACCTID [ACCTTYPE [BANKID]], comme dans le fichier
+</translation>
     </message>
 </context>
 <context>
@@ -333,6 +325,10 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
     <message>
         <source>The character %1 cannot be shown.</source>
         <translation>Le caractère %1 ne peut pas être affiché.</translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
+        <translation>Le fichier contient deux soldes du %1&#xa0;: %2 et %3.</translation>
     </message>
 </context>
 </TS>

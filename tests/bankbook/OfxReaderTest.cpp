@@ -9,12 +9,11 @@ static QString outcome(QByteArray const& content)
 {
   QStringList accounts;
   try {
-    for (auto const& [identifier, statements] : readOfx(content).asKeyValueRange()) {
-      for (auto const& [balance, fault] : statements) {
-        auto const day = balance.occurredOn.toString(Qt::ISODate);
-        accounts +=
-            identifier + ' ' + (fault.isEmpty() ? streamed(balance.balance) + ' ' + day : fault);
-      }
+    auto const file = readOfx(content);
+    for (auto const& [identifier, statement] : file.asKeyValueRange()) {
+      auto const& [kinds, balance, fault] = statement;
+      auto const known = streamed(balance.balance) + ' ' + balance.occurredOn.toString(Qt::ISODate);
+      accounts += identifier + ' ' + (fault.isEmpty() ? known : fault);
     }
   } catch (BookError const& refusal) {
     return refusal.what();
