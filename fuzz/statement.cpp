@@ -1,22 +1,19 @@
-#include "Statement.hpp"
-
 #include "BookReader.hpp"
+#include "OfxReader.hpp"
 
-// Whatever the bytes, they are a statement of which everything is known, or are refused in words.
+// Whatever the bytes, of each statement everything is known, or what is wrong; or the file is refused.
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
-  QByteArray const content(reinterpret_cast<char const*>(data), static_cast<qsizetype>(size));
-  using enum orv::banking::BankAccountTypes;
-  for (auto const kind : {Chequeing, CreditCard}) {
-    try {
-      auto const statement =
-          statementFor({orv::accounting::AccountNumber(1), kind}, toStatements(content), {});
-      if (statement.accountId.isEmpty() || !statement.date.isValid() ||
-          statement.balance.money() == mintar::Money()) {
+  try {
+    QByteArray const content(reinterpret_cast<char const*>(data), static_cast<qsizetype>(size));
+    for (auto const& [identifier, statement] : readOfx(content).asKeyValueRange()) {
+      auto const isKnown = statement.balance.occurredOn.isValid() &&
+                           isCurrency(statement.balance.balance.currency().isoCode());
+      if (toWords(identifier).size() < 2 || (statement.fault.isEmpty() && !isKnown)) {
         std::abort();
       }
-    } catch (BookError const&) { // anything else ends the program
     }
+  } catch (BookError const&) { // anything else ends the program
   }
   return 0;
 }

@@ -52,23 +52,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Show texts, amounts and dates as in this locale.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Keeps a household&apos;s books, one command a line:</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -84,15 +72,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is no locale &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -100,19 +80,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>:/help.txt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -120,15 +88,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Standard input is closed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -140,10 +100,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The account number %1 is given twice.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -152,23 +108,110 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
+        <source>The command is written: %1. Straight double quotes hold words with blanks.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
+        <source>The file has several such accounts; add one at the end: %1.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
+        <source>The file has no statement for %1; it has: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
+        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
+        <source>%1 To take back the last date of the account number %2: forget %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands in the wrong place: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>add NAME NUMBER KIND</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bank NAME [NUMBER=KIND ...]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>close NAME</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>forget NUMBER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>identifier NUMBER IDENTIFIER</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open NAME</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reconcile NUMBER DATE AMOUNT CURRENCY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>remove NAME [NUMBER]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rename FROM TO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>statement [NUMBER] FILE [IDENTIFIER]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>update NAME [NUMBER=KIND ...]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future. To take it back: forget %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Report the changes of banks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The book, or - for standard input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -187,19 +230,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A quoted word does not end; close it with a double quote.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -211,23 +242,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file has several such accounts; add the identifier at the end: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The statements of the account &apos;%1&apos; differ.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The line contains the character %1, which cannot be shown.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -235,7 +250,75 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
+        <source>%1 is not a straight double quote.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a straight quote.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; has more than 100 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sign of &apos;%1&apos; is wrong; only what you owe has one, -.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency such as CAD.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has more decimals than %2, which has %3; nothing stands between thousands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank reports an error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not OFX; download the statement as OFX, QFX or Money, not as PDF, CSV or QIF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown; save the file as UTF-8, with lines that end with LF or CR LF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -52,24 +52,12 @@
         <translation>Auf die Standardausgabe kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation>Die Zeile ist länger als 1 MiB.</translation>
-    </message>
-    <message>
         <source>Show texts, amounts and dates as in this locale.</source>
         <translation>Zeigt Texte, Beträge und Daten wie in diesem Gebietsschema an.</translation>
     </message>
     <message>
         <source>Keeps a household&apos;s books, one command a line:</source>
         <translation>Führt die Bücher eines Haushalts, ein Befehl je Zeile:</translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation>Unterdrückt die Meldungen über Änderungen an Banken.</translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
-        <translation>Meldet Änderungen an Banken, auch bei interaktiver Eingabe.</translation>
     </message>
     <message>
         <source>Stop at the first line that is refused.</source>
@@ -84,52 +72,24 @@
         <translation>DATEI</translation>
     </message>
     <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation>Das Haushaltsbuch; ohne Angabe oder bei - die Standardeingabe.</translation>
-    </message>
-    <message>
         <source>There is no locale &apos;%1&apos;.</source>
         <translation>Das Gebietsschema „%1“ gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
-        <translation>Es kann nur ein Haushaltsbuch auf einmal gelesen werden.</translation>
     </message>
     <message>
         <source>standard input</source>
         <translation>Standardeingabe</translation>
     </message>
     <message>
-        <source>:/help.txt</source>
-        <translation>:/help_de.txt</translation>
-    </message>
-    <message>
-        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
-        <translation>Das Datum %1 des Kontos mit der Nummer %2 liegt in der Zukunft: Ein früheres wird nur noch angenommen, wenn Sie die Nummer entfernen und neu hinzufügen.</translation>
-    </message>
-    <message>
         <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
         <translation>%1: Auszug von %2 mit dem Datum %3 und dem Saldo %4 übernommen.</translation>
-    </message>
-    <message>
-        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
-        <translation>%1 von %2 Zeilen wurden abgelehnt; --strict hält bei der ersten an.</translation>
     </message>
     <message>
         <source>%1 of %2 lines were refused.</source>
         <translation>%1 von %2 Zeilen wurden abgelehnt.</translation>
     </message>
     <message>
-        <source>Standard input is closed.</source>
-        <translation>Die Standardeingabe ist geschlossen.</translation>
-    </message>
-    <message>
         <source>There is not enough memory.</source>
         <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
-        <translation>help zeigt die Befehle an, quit beendet das Programm. Erhalten bleibt nur, was Sie von den Zeilen aufbewahren, die print anzeigt.</translation>
     </message>
     <message>
         <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
@@ -140,10 +100,6 @@
         <translation>%1 ist keine Datei.</translation>
     </message>
     <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
-    </message>
-    <message>
         <source>The account number %1 is given twice.</source>
         <translation>Die Kontonummer %1 ist zweimal angegeben.</translation>
     </message>
@@ -152,24 +108,120 @@
         <translation>Keine Bank führt ein Konto mit der Nummer %1; list zeigt alle an.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
-        <translation>Die Kontonummer %1 ist an „%2“ gebunden, nicht an „%3“; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+        <source>The command is written: %1. Straight double quotes hold words with blanks.</source>
+        <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
-        <translation>„%1“ ist an ein anderes Konto der Bank gebunden, %2.</translation>
+        <source>The file has several such accounts; add one at the end: %1.</source>
+        <translation>Die Datei hat mehrere solche Konten; fügen Sie am Ende eines hinzu: %1.</translation>
     </message>
     <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
-        <translation>Der Saldo des Kontos mit der Nummer %1 wird in %2 geführt, nicht in %3.</translation>
+        <source>The file has no statement for %1; it has: %2.</source>
+        <translation>Die Datei enthält keinen Auszug für %1, sondern: %2.</translation>
     </message>
     <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
-        <translation>Konten mehrerer Banken sind an „%1“ gebunden. Übernehmen Sie ihre Auszüge einzeln: statement NUMMER DATEI</translation>
+        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
+        <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3; um das zurückzunehmen: forget %1</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
-        <translation>Den Befehl „%1“ gibt es nicht; help zeigt die Befehle an.</translation>
+        <source>%1 To take back the last date of the account number %2: forget %2</source>
+        <translation>%1 Um das letzte Datum des Kontos mit der Nummer %2 zurückzunehmen: forget %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands in the wrong place: %2</source>
+        <translation>„%1“ steht an der falschen Stelle: %2</translation>
+    </message>
+    <message>
+        <source>add NAME NUMBER KIND</source>
+        <translation>add NAME NUMMER ART</translation>
+    </message>
+    <message>
+        <source>bank NAME [NUMBER=KIND ...]</source>
+        <translation>bank NAME [NUMMER=ART ...]</translation>
+    </message>
+    <message>
+        <source>close NAME</source>
+        <translation>close NAME</translation>
+    </message>
+    <message>
+        <source>forget NUMBER</source>
+        <translation>forget NUMMER</translation>
+    </message>
+    <message>
+        <source>identifier NUMBER IDENTIFIER</source>
+        <translation>identifier NUMMER KENNUNG</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>list</translation>
+    </message>
+    <message>
+        <source>open NAME</source>
+        <translation>open NAME</translation>
+    </message>
+    <message>
+        <source>reconcile NUMBER DATE AMOUNT CURRENCY</source>
+        <translation>reconcile NUMMER DATUM BETRAG WÄHRUNG</translation>
+    </message>
+    <message>
+        <source>remove NAME [NUMBER]</source>
+        <translation>remove NAME [NUMMER]</translation>
+    </message>
+    <message>
+        <source>rename FROM TO</source>
+        <translation>rename ALT NEU</translation>
+    </message>
+    <message>
+        <source>statement [NUMBER] FILE [IDENTIFIER]</source>
+        <translation>statement [NUMMER] DATEI [KENNUNG]</translation>
+    </message>
+    <message>
+        <source>update NAME [NUMBER=KIND ...]</source>
+        <translation>update NAME [NUMMER=ART ...]</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
+        <translation>Den Befehl „%1“ gibt es nicht; bankbook --help zeigt alle an.</translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future. To take it back: forget %2</source>
+        <translation>Das Datum %1 des Kontos mit der Nummer %2 liegt in der Zukunft. Um es zurückzunehmen: forget %2</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks.</source>
+        <translation>Meldet Änderungen an Banken.</translation>
+    </message>
+    <message>
+        <source>The book, or - for standard input.</source>
+        <translation>Das Haushaltsbuch; bei - die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden. Für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation>Für die Kontonummer %1 ist nichts erfasst.</translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
+        <translation>Eine Zeile enthält einen Befehl. Ein Wort mit Leerzeichen steht in geraden Anführungszeichen;
+darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. # beginnt einen Kommentar.
+  NUMMER   eine eigene Nummer für ein Konto, etwa 1010
+  ART      Girokonto, Kreditkarte, Darlehen, Sparkonto oder Sparziel; oder die englischen Wörter
+           Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, die in jeder Sprache gelten
+  DATUM    etwa 2026-10-31
+  BETRAG   etwa -1250.50, mit Punkt und ohne Tausendertrennzeichen; Schulden sind negativ
+  WÄHRUNG  etwa EUR
+  KENNUNG  ACCTID [ACCTTYPE [BANKID]], wie in der Datei
+</translation>
     </message>
 </context>
 <context>
@@ -187,20 +239,8 @@
         <translation>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
     <message>
-        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
-        <translation>Die Datei enthält keinen Auszug des Kontos „%1“, sondern von: %2.</translation>
-    </message>
-    <message>
-        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
-        <translation>Das Konto %1 hat nicht die Art, für die der Auszug gilt: „%2“.</translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
         <translation>Die Zeile ist kein UTF-8-Text; speichern Sie das Haushaltsbuch als UTF-8.</translation>
-    </message>
-    <message>
-        <source>A quoted word does not end; close it with a double quote.</source>
-        <translation>Es fehlt ein schließendes Anführungszeichen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an account number such as 1010.</source>
@@ -211,32 +251,84 @@
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file has several such accounts; add the identifier at the end: %1.</source>
-        <translation>Die Datei hat mehrere solche Konten; fügen Sie am Ende die Kennung hinzu: %1.</translation>
-    </message>
-    <message>
-        <source>The statements of the account &apos;%1&apos; differ.</source>
-        <translation>Die Auszüge des Kontos „%1“ unterscheiden sich.</translation>
-    </message>
-    <message>
-        <source>The line contains the character %1, which cannot be shown.</source>
-        <translation>Die Zeile enthält das Zeichen %1, das nicht angezeigt werden kann.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
         <translation>„%1“ ist keine Kontoart; die Kontoarten sind: Girokonto, Kreditkarte, Darlehen, Sparkonto, Sparziel.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
-        <translation>„%1“ ist kein Betrag wie -1250.50 CAD (Dezimaltrennzeichen: Punkt).</translation>
     </message>
     <message>
         <source>The file is cut short, damaged, or several files in one.</source>
         <translation>Die Datei ist abgeschnitten, beschädigt oder besteht aus mehreren Dateien.</translation>
     </message>
     <message>
-        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
-        <translation>Die Datei ist keine OFX-Datei oder in UTF-16 oder UTF-32 kodiert.</translation>
+        <source>%1 is not a straight double quote.</source>
+        <translation>%1 ist kein gerades Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a straight quote.</source>
+        <translation>Es fehlt ein schließendes gerades Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; has more than 100 characters.</source>
+        <translation>Der Name „%1“ hat mehr als 100 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The sign of &apos;%1&apos; is wrong; only what you owe has one, -.</source>
+        <translation>Das Vorzeichen von „%1“ ist falsch; nur Schulden haben eines, -.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
+        <translation>„%1“ enthält ein Komma; das Dezimaltrennzeichen ist ein Punkt, und Tausendertrennzeichen gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
+        <translation>„%1“ enthält Tausendertrennzeichen; lassen Sie sie weg (Dezimaltrennzeichen: Punkt).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
+        <translation>„%1“ ist kein Betrag wie -1250.50 (Dezimaltrennzeichen: Punkt).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency such as CAD.</source>
+        <translation>„%1“ ist keine Währung wie EUR.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has more decimals than %2, which has %3; nothing stands between thousands.</source>
+        <translation>„%1“ hat mehr Dezimalstellen als %2, nämlich mehr als %3; Tausendertrennzeichen gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too large.</source>
+        <translation>„%1“ ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The bank reports an error: %1</source>
+        <translation>Die Bank meldet einen Fehler: %1</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
+        <translation>Das Feld BALAMT des Auszugs hat drei Dezimalstellen oder ein Tausendertrennzeichen: „%1“.</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation>Das Feld %1 des Auszugs ist unlesbar: „%2“.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is not OFX; download the statement as OFX, QFX or Money, not as PDF, CSV or QIF.</source>
+        <translation>Die Datei ist keine OFX-Datei; laden Sie den Auszug als OFX, QFX oder Money herunter, nicht als PDF, CSV oder QIF.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown; save the file as UTF-8, with lines that end with LF or CR LF.</source>
+        <translation>Das Zeichen %1 kann nicht angezeigt werden; speichern Sie die Datei als UTF-8, mit Zeilenenden LF oder CR LF.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown.</source>
+        <translation>Das Zeichen %1 kann nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
+        <translation>Die Datei enthält zwei Salden vom %1: %2 und %3.</translation>
     </message>
 </context>
 </TS>

@@ -52,24 +52,12 @@
         <translation>Impossible d’écrire sur la sortie standard.</translation>
     </message>
     <message>
-        <source>The line is longer than 1 MiB.</source>
-        <translation>La ligne dépasse 1&#xa0;Mio.</translation>
-    </message>
-    <message>
         <source>Show texts, amounts and dates as in this locale.</source>
         <translation>Afficher les textes, les montants et les dates selon ces paramètres régionaux.</translation>
     </message>
     <message>
         <source>Keeps a household&apos;s books, one command a line:</source>
         <translation>Tient les comptes d’un ménage, à raison d’une commande par ligne&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Do not report the changes of banks.</source>
-        <translation>Ne pas signaler les modifications apportées aux banques.</translation>
-    </message>
-    <message>
-        <source>Report the changes of banks, at the prompt too.</source>
-        <translation>Signaler les modifications apportées aux banques, même en mode interactif.</translation>
     </message>
     <message>
         <source>Stop at the first line that is refused.</source>
@@ -84,52 +72,24 @@
         <translation>FICHIER</translation>
     </message>
     <message>
-        <source>The book. Without it, or with -, standard input is read.</source>
-        <translation>Le livre de comptes; s’il est omis ou remplacé par -, l’entrée standard.</translation>
-    </message>
-    <message>
         <source>There is no locale &apos;%1&apos;.</source>
         <translation>Les paramètres régionaux «&#xa0;%1&#xa0;» n’existent pas.</translation>
-    </message>
-    <message>
-        <source>Only one book can be read at a time.</source>
-        <translation>Un seul livre de comptes peut être lu à la fois.</translation>
     </message>
     <message>
         <source>standard input</source>
         <translation>entrée standard</translation>
     </message>
     <message>
-        <source>:/help.txt</source>
-        <translation>:/help_fr.txt</translation>
-    </message>
-    <message>
-        <source>The date %1 of the account number %2 lies in the future: no earlier one will be taken, unless you remove the number and add it again.</source>
-        <translation>La date %1 du compte numéro %2 est dans l’avenir&#xa0;: aucune date antérieure ne sera acceptée, à moins de retirer le numéro et de l’ajouter de nouveau.</translation>
-    </message>
-    <message>
         <source>%1: took the statement of %2, dated %3, with a balance of %4.</source>
         <translation>%1&#xa0;: relevé de %2 repris, daté %3, avec un solde de %4.</translation>
-    </message>
-    <message>
-        <source>%1 of %2 lines were refused; --strict stops at the first.</source>
-        <translation>%1 lignes sur %2 ont été refusées; --strict s’arrête à la première.</translation>
     </message>
     <message>
         <source>%1 of %2 lines were refused.</source>
         <translation>Lignes refusées&#xa0;: %1 sur %2.</translation>
     </message>
     <message>
-        <source>Standard input is closed.</source>
-        <translation>L’entrée standard est fermée.</translation>
-    </message>
-    <message>
         <source>There is not enough memory.</source>
         <translation>La mémoire ne suffit pas.</translation>
-    </message>
-    <message>
-        <source>Type help for the commands, or quit to leave. Nothing is kept unless you keep the lines that print shows.</source>
-        <translation>Tapez help pour voir les commandes, quit pour quitter. Rien n’est gardé, sauf si vous gardez les lignes que print affiche.</translation>
     </message>
     <message>
         <source>No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER</source>
@@ -140,10 +100,6 @@
         <translation>%1 n’est pas un fichier.</translation>
     </message>
     <message>
-        <source>The command is written: %1. Double quotes hold words with blanks.</source>
-        <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
-    </message>
-    <message>
         <source>The account number %1 is given twice.</source>
         <translation>Le numéro de compte %1 est indiqué deux fois.</translation>
     </message>
@@ -152,24 +108,120 @@
         <translation>Le numéro de compte %1 n’est associé à aucune banque; list les affiche tous.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to &apos;%2&apos;, not to &apos;%3&apos;; remove it and add it again to bind it anew.</source>
-        <translation>Le numéro de compte %1 est lié à «&#xa0;%2&#xa0;», pas à «&#xa0;%3&#xa0;»; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+        <source>The command is written: %1. Straight double quotes hold words with blanks.</source>
+        <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is bound to another account of the bank, %2.</source>
-        <translation>«&#xa0;%1&#xa0;» est lié à un autre compte de la banque, %2.</translation>
+        <source>The file has several such accounts; add one at the end: %1.</source>
+        <translation>Le fichier a plusieurs comptes de ce type; ajoutez-en un à la fin&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>The balance of the account number %1 is kept in %2, not in %3.</source>
-        <translation>Le solde du compte numéro %1 est tenu en %2, pas en %3.</translation>
+        <source>The file has no statement for %1; it has: %2.</source>
+        <translation>Le fichier ne contient pas de relevé pour %1, mais&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>Accounts of several banks are bound to &apos;%1&apos;. Take their statements one by one: statement NUMBER FILE</source>
-        <translation>Des comptes de plusieurs banques sont liés à «&#xa0;%1&#xa0;». Reprenez leurs relevés un à un&#xa0;: statement NUMÉRO FICHIER</translation>
+        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
+        <translation>Le compte numéro %1 est tenu en %2, pas en %3; pour l’annuler&#xa0;: forget %1</translation>
     </message>
     <message>
-        <source>There is no command &apos;%1&apos;; help shows the commands.</source>
-        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; help affiche les commandes.</translation>
+        <source>%1 To take back the last date of the account number %2: forget %2</source>
+        <translation>%1 Pour annuler la dernière date du compte numéro %2&#xa0;: forget %2</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands in the wrong place: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas à sa place&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>add NAME NUMBER KIND</source>
+        <translation>add NOM NUMÉRO TYPE</translation>
+    </message>
+    <message>
+        <source>bank NAME [NUMBER=KIND ...]</source>
+        <translation>bank NOM [NUMÉRO=TYPE ...]</translation>
+    </message>
+    <message>
+        <source>close NAME</source>
+        <translation>close NOM</translation>
+    </message>
+    <message>
+        <source>forget NUMBER</source>
+        <translation>forget NUMÉRO</translation>
+    </message>
+    <message>
+        <source>identifier NUMBER IDENTIFIER</source>
+        <translation>identifier NUMÉRO IDENTIFIANT</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>list</translation>
+    </message>
+    <message>
+        <source>open NAME</source>
+        <translation>open NOM</translation>
+    </message>
+    <message>
+        <source>reconcile NUMBER DATE AMOUNT CURRENCY</source>
+        <translation>reconcile NUMÉRO DATE MONTANT DEVISE</translation>
+    </message>
+    <message>
+        <source>remove NAME [NUMBER]</source>
+        <translation>remove NOM [NUMÉRO]</translation>
+    </message>
+    <message>
+        <source>rename FROM TO</source>
+        <translation>rename ANCIEN NOUVEAU</translation>
+    </message>
+    <message>
+        <source>statement [NUMBER] FILE [IDENTIFIER]</source>
+        <translation>statement [NUMÉRO] FICHIER [IDENTIFIANT]</translation>
+    </message>
+    <message>
+        <source>update NAME [NUMBER=KIND ...]</source>
+        <translation>update NOM [NUMÉRO=TYPE ...]</translation>
+    </message>
+    <message>
+        <source>There is no command &apos;%1&apos;; bankbook --help shows all.</source>
+        <translation>La commande «&#xa0;%1&#xa0;» n’existe pas; bankbook --help les affiche toutes.</translation>
+    </message>
+    <message>
+        <source>The date %1 of the account number %2 lies in the future. To take it back: forget %2</source>
+        <translation>La date %1 du compte numéro %2 est dans l’avenir. Pour l’annuler&#xa0;: forget %2</translation>
+    </message>
+    <message>
+        <source>Report the changes of banks.</source>
+        <translation>Signaler les modifications apportées aux banques.</translation>
+    </message>
+    <message>
+        <source>The book, or - for standard input.</source>
+        <translation>Le livre de comptes; s’il est remplacé par -, l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
+        <translation>Le numéro de compte %1 est lié à %2. Pour un autre compte, ajoutez son ACCTTYPE et son BANKID; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded of the account number %1.</source>
+        <translation>Rien n’est noté pour le numéro de compte %1.</translation>
+    </message>
+    <message>
+        <source>A line holds one command. Straight double quotes hold a word with blanks; \&quot; in them is a
+quote, \\ a backslash. # begins a comment.
+  KIND        Chequeing, &quot;Credit Card&quot;, Loan, Savings or Goal
+  DATE        such as 2026-10-31
+  AMOUNT      such as -1250.50, with a point and nothing between thousands
+  CURRENCY    such as CAD
+  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
+</source>
+        <translation>Une ligne contient une commande. Un mot avec des espaces se met entre guillemets droits; à
+l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # commence un commentaire.
+  NUMÉRO       votre propre numéro pour un compte, tel que 1010
+  TYPE         Compte-chèques, &quot;Carte de crédit&quot;, Prêt, Épargne ou Objectif; ou les mots anglais
+               Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal, qui valent dans toutes les langues
+  DATE         telle que 2026-10-31
+  MONTANT      tel que -1250.50, avec un point et rien entre les milliers; une dette est négative
+  DEVISE       telle que CAD
+  IDENTIFIANT  ACCTID [ACCTTYPE [BANKID]], comme dans le fichier
+</translation>
     </message>
 </context>
 <context>
@@ -187,20 +239,8 @@
         <translation>Le fichier ne contient aucun relevé de compte bancaire ou de carte de crédit.</translation>
     </message>
     <message>
-        <source>The file has no statement of the account &apos;%1&apos;, but of: %2.</source>
-        <translation>Le fichier ne contient pas de relevé du compte «&#xa0;%1&#xa0;», mais de&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>The account %1 is not of the kind that the statement is for, &apos;%2&apos;.</source>
-        <translation>Le compte %1 n’est pas du type visé par le relevé, «&#xa0;%2&#xa0;».</translation>
-    </message>
-    <message>
         <source>The line is not UTF-8 text; save the book as UTF-8.</source>
         <translation>La ligne n’est pas du texte UTF-8; enregistrez le livre de comptes en UTF-8.</translation>
-    </message>
-    <message>
-        <source>A quoted word does not end; close it with a double quote.</source>
-        <translation>Il manque un guillemet droit fermant.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an account number such as 1010.</source>
@@ -211,32 +251,84 @@
         <translation>Lecture impossible&#xa0;: %1 (%2)</translation>
     </message>
     <message>
-        <source>The file has several such accounts; add the identifier at the end: %1.</source>
-        <translation>Le fichier a plusieurs comptes de ce type; ajoutez l’identifiant à la fin&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>The statements of the account &apos;%1&apos; differ.</source>
-        <translation>Les relevés du compte «&#xa0;%1&#xa0;» diffèrent.</translation>
-    </message>
-    <message>
-        <source>The line contains the character %1, which cannot be shown.</source>
-        <translation>La ligne contient le caractère %1, qui ne peut pas être affiché.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no kind of account; the kinds are: Chequeing, &quot;Credit Card&quot;, Loan, Savings, Goal.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte; les types sont&#xa0;: Compte-chèques, &quot;Carte de crédit&quot;, Prêt, Épargne, Objectif.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not an amount such as -1250.50 CAD.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme -1250.50 CAD (séparateur décimal&#xa0;: point).</translation>
     </message>
     <message>
         <source>The file is cut short, damaged, or several files in one.</source>
         <translation>Le fichier est tronqué, endommagé ou formé de plusieurs fichiers.</translation>
     </message>
     <message>
-        <source>The file is not an OFX file, or is one in UTF-16 or UTF-32.</source>
-        <translation>Le fichier n’est pas un fichier OFX, ou est en UTF-16 ou en UTF-32.</translation>
+        <source>%1 is not a straight double quote.</source>
+        <translation>%1 n’est pas un guillemet droit.</translation>
+    </message>
+    <message>
+        <source>A quoted word does not end; close it with a straight quote.</source>
+        <translation>Il manque un guillemet droit fermant.</translation>
+    </message>
+    <message>
+        <source>The name &apos;%1&apos; has more than 100 characters.</source>
+        <translation>Le nom «&#xa0;%1&#xa0;» a plus de 100 caractères.</translation>
+    </message>
+    <message>
+        <source>The sign of &apos;%1&apos; is wrong; only what you owe has one, -.</source>
+        <translation>Le signe de «&#xa0;%1&#xa0;» est incorrect; seul ce que vous devez en a un, -.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
+        <translation>«&#xa0;%1&#xa0;» contient une virgule; le séparateur décimal est un point, et rien ne sépare les milliers.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
+        <translation>«&#xa0;%1&#xa0;» contient des séparateurs; rien ne sépare les milliers (séparateur décimal&#xa0;: point).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme -1250.50 (séparateur décimal&#xa0;: point).</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency such as CAD.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has more decimals than %2, which has %3; nothing stands between thousands.</source>
+        <translation>«&#xa0;%1&#xa0;» a plus de décimales que %2, qui en a %3; rien ne sépare les milliers.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is too large.</source>
+        <translation>«&#xa0;%1&#xa0;» est trop grand.</translation>
+    </message>
+    <message>
+        <source>The bank reports an error: %1</source>
+        <translation>La banque signale une erreur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
+        <translation>Le champ BALAMT du relevé a trois décimales, ou un séparateur de milliers&#xa0;: «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
+        <translation>Le champ %1 du relevé est illisible&#xa0;: «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>The file is not OFX; download the statement as OFX, QFX or Money, not as PDF, CSV or QIF.</source>
+        <translation>Le fichier n’est pas un fichier OFX; téléchargez le relevé en OFX, QFX ou Money, pas en PDF, CSV ou QIF.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown; save the file as UTF-8, with lines that end with LF or CR LF.</source>
+        <translation>Le caractère %1 ne peut pas être affiché; enregistrez le fichier en UTF-8, avec des fins de ligne LF ou CR LF.</translation>
+    </message>
+    <message>
+        <source>The character %1 cannot be shown.</source>
+        <translation>Le caractère %1 ne peut pas être affiché.</translation>
+    </message>
+    <message>
+        <source>The file has two balances of %1: %2 and %3.</source>
+        <translation>Le fichier contient deux soldes du %1&#xa0;: %2 et %3.</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,393 @@
+#include "Book.hpp"
+
+#include "BookReader.hpp"
+
+#include <banking/ReconciledBankAccount.hpp>
+#include <foundation/Date.hpp>
+
+#include <QFileInfo>
+
+#include <climits>
+
+using namespace orv::banking;
+using orv::accounting::AccountNumber;
+using enum orv::foundation::LocaleAware;
+using enum BankAccountTypes;
+using orv::foundation::presentationText; // of a date, whose own namespace has none
+
+namespace {
+
+using Words = QStringList;
+using Accounts = std::map<AccountNumber, BankAccountTypes>;
+
+QString usageOf(QString const& command);
+
+BookError writtenOtherwise(QString const& command)
+{
+  return {Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
+          usageOf(command)};
+}
+
+// The bank that NAME [NUMBER=KIND ...] describes, in the words of a command.
+Bank toBank(Words const& words)
+{
+  Accounts accounts;
+  for (auto const& word : words.mid(2)) {
+    auto const kind = word.section(u'=', 1);
+    if (kind.isEmpty()) {
+      throw writtenOtherwise(words[0]);
+    }
+    auto const number = word.section(u'=', 0, 0);
+    refuseIf(!accounts.emplace(toAccountNumber(number), toKind(kind)).second,
+             Book::tr("The account number %1 is given twice."), number);
+  }
+  return Bank(toBankName(words[1]), std::move(accounts), false);
+}
+
+// The identifier in the words from this one on, as statements have it.
+Identifier toIdentifier(Words words, qsizetype first)
+{
+  for (auto& word : words) {
+    word = word.simplified();
+  }
+  if (words.value(first, words[0]).isEmpty()) {
+    throw writtenOtherwise(words[0]);
+  }
+  return toLine(words.mid(first));
+}
+
+// Whether both may stand for one account: one of them is the other, begins it or is empty.
+bool mayBeOne(Identifier const& one, Identifier const& other)
+{
+  auto const& [shorter, longer] =
+      std::minmax(one, other, [](auto const& a, auto const& b) { return a.size() < b.size(); });
+  return shorter.isEmpty() ||
+         (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
+}
+
+// The account with the number; of the kind `Unknown` if no bank holds it.
+BankAccount find(Book const& book, AccountNumber const& number)
+{
+  for (auto const& [name, bank] : book.banks) {
+    if (auto const found = bank.accounts().find(number); found != bank.accounts().end()) {
+      return {name, {number, found->second}};
+    }
+  }
+  return {{}, {number}};
+}
+
+BankAccountTypes kindOf(Book const& book, AccountNumber const& number)
+{
+  return find(book, number).accountNumberBankType.bankAccountType;
+}
+
+// Throws if no bank holds the account.
+AccountNumber toHeldNumber(Book const& book, QString const& word)
+{
+  auto const number = toAccountNumber(word);
+  refuseIf(kindOf(book, number) == Unknown,
+           Book::tr("No bank holds the account number %1; list shows all."), word);
+  return number;
+}
+
+// The accounts of a bank; none where there is no such bank.
+Accounts accountsOf(Book const& book, BankName const& name)
+{
+  return book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
+}
+
+// Drops what is known of those accounts that are no longer there, and the identifiers of those that have
+// changed their kind.
+void drop(Book& book, Accounts const& before)
+{
+  for (auto const& [number, kind] : before) {
+    auto const now = kindOf(book, number);
+    if (now == Unknown) {
+      book.balances.remove(number);
+    }
+    if (now != kind) {
+      book.identifiers.remove(number);
+    }
+  }
+}
+
+// The accounts of ours of these kinds that may be bound to the identifier.
+QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
+                             QList<BankAccountTypes> const& kinds)
+{
+  QList<AccountNumber> numbers;
+  for (auto const& [number, other] : book.identifiers.asKeyValueRange()) {
+    if (mayBeOne(other, identifier) && kinds.contains(kindOf(book, number))) {
+      numbers += number;
+    }
+  }
+  return numbers;
+}
+
+// Throws where the account is bound to another identifier, or another account of these kinds may be bound to
+// this one.
+void checkBinding(Book const& book, AccountNumber const& ours, Identifier const& identifier,
+                  QList<BankAccountTypes> const& kinds)
+{
+  auto const text = Book::tr("The account number %1 is bound to %2. For another account, add its "
+                             "ACCTTYPE and BANKID; to bind it anew, remove it and add it again.");
+  auto const bound = book.identifiers.value(ours);
+  refuseIf(!mayBeOne(bound, identifier), text, presentationText(ours), bound);
+  for (auto const& number : boundTo(book, identifier, kinds)) {
+    refuseIf(!(number == ours), text, presentationText(number), book.identifiers.value(number));
+  }
+}
+
+// The whole identifier of the account in the file that may be ours and has these identifiers.
+Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& bound,
+                   Identifier const& typed)
+{
+  auto const account = ours.accountNumberBankType;
+  auto found = file.keys();
+  found.removeIf([&](Identifier const& whole) {
+    return !mayBeOne(bound, whole) || !mayBeOne(typed, whole) ||
+           !file[whole].kinds.contains(account.bankAccountType);
+  });
+  auto const sought = presentationText(account, Yes) + u' ' + (bound.isEmpty() ? typed : bound);
+  refuseIf(found.isEmpty(), Book::tr("The file has no statement for %1; it has: %2."),
+           sought.trimmed(), file.keys());
+  refuseIf(found.size() > 1,
+           Book::tr("The file has several such accounts; add one at the end: %1."), found);
+  return found[0];
+}
+
+// What is known of the account once it is reconciled. Throws where it must not be.
+ReconciledBalance reconciled(Book const& book, BankAccount const& account,
+                             ReconciledBalance const& next)
+{
+  auto const number = presentationText(account.accountNumberBankType.accountNumber);
+  auto const last = // the first is of any day and currency
+      book.balances.value(account.accountNumberBankType.accountNumber, next);
+  ReconciledBankAccount updated(account, last.balance, last.occurredOn);
+  refuseIf(!(last.balance.currency() == next.balance.currency()),
+           Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
+                    "forget %1"),
+           number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
+  try {
+    updated.reconcile(next.occurredOn, next.balance);
+  } catch (BankError const& refusal) {
+    auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
+    throw BookError(text.arg(QString::fromUtf8(refusal.what()), number));
+  }
+  return {updated.balance(), *updated.reconciledOn()};
+}
+
+// The commands. Each takes its words, of which the first is its own name.
+
+void add(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const number = toAccountNumber(words[2]);
+  auto const kind = toKind(words[3]);
+  Accounts const before{{number, kindOf(book, number)}};
+  book.banks.add(toBankName(words[1]), number, kind);
+  drop(book, before);
+}
+
+void addBank(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.add(toBank(words));
+}
+
+void close(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.close(toBankName(words[1]));
+}
+
+void forget(Book& book, Words const& words, Answer& /*answer*/)
+{
+  refuseIf(book.balances.remove(toHeldNumber(book, words[1])) == 0,
+           Book::tr("Nothing is recorded of the account number %1."), words[1]);
+}
+
+void identify(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const number = toHeldNumber(book, words[1]);
+  auto const identifier = toIdentifier(words, 2);
+  checkBinding(book, number, identifier, {kindOf(book, number)});
+  if (identifier.size() > book.identifiers.value(number).size()) {
+    book.identifiers[number] = identifier;
+  }
+}
+
+void list(Book& book, Words const& /*words*/, Answer& answer)
+{
+  QList<QStringList> rows{{Book::tr("Bank"), Book::tr("State"), Book::tr("Account"),
+                           Book::tr("Kind"), Book::tr("Class"), Book::tr("Balance"),
+                           Book::tr("Reconciled")}};
+  for (auto const& [name, bank] : book.banks) {
+    QStringList const start{presentationText(name),
+                            bank.isClosed() ? Book::tr("closed") : Book::tr("open")};
+    if (bank.accounts().empty()) {
+      rows += start;
+    }
+    for (auto const& [number, kind] : bank.accounts()) {
+      rows += start + QStringList{presentationText(number), presentationText(kind),
+                                  isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability")};
+      auto const known = book.balances.value(number);
+      rows.last() += {presentationText(known.balance), presentationText(known.occurredOn)};
+    }
+  }
+  answer.table = toTable(rows, "llrllrl");
+}
+
+void open(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.open(toBankName(words[1]));
+}
+
+void reconcile(Book& book, Words const& words, Answer& answer)
+{
+  for (qsizetype i = 1; i < words.size(); ++i) {
+    refuseIf((i != 2 && QDate::fromString(words[i], Qt::ISODate).isValid()) ||
+                 (i != 4 && isCurrency(words[i])),
+             Book::tr("'%1' stands in the wrong place: %2"), words[i], usageOf(words[0]));
+  }
+  auto const number = toHeldNumber(book, words[1]);
+  auto const date = toDate(words[2]);
+  auto const money = toMoney(words[3], words[4]);
+  book.balances[number] = reconciled(book, find(book, number), {money, date});
+  answer.reconciled = {number};
+}
+
+void remove(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const name = toBankName(words[1]);
+  if (words.size() == 2) {
+    auto const before = accountsOf(book, name);
+    book.banks.remove(name);
+    drop(book, before);
+  } else {
+    auto const number = toAccountNumber(words[2]);
+    book.banks.remove(name, number);
+    drop(book, {{number, Goal}}); // or any other kind
+  }
+}
+
+void rename(Book& book, Words const& words, Answer& /*answer*/)
+{
+  book.banks.rename(toBankName(words[1]), toBankName(words[2]));
+}
+
+void statement(Book& book, Words const& words, Answer& answer)
+{
+  auto const isOfAll = words.size() == 2;
+  auto const fileName = words[isOfAll ? 1 : 2];
+  QFile file(pathOf(book.folder, fileName));
+  QFileInfo const info(file);
+  if (info.exists() && !info.isFile() && !info.isDir()) { // a device, which may have no end
+    throw BookError(Book::tr("%1 is not a file."), fileName);
+  }
+  auto const statements = readOfx(contentOf(file, fileName));
+  auto const all = statements.keys();
+  for (auto const& whole : all) {
+    answer.reconciled += boundTo(book, whole, statements[whole].kinds);
+  }
+  if (!isOfAll) {
+    answer.reconciled = {toHeldNumber(book, words[1])};
+  }
+  auto const typed = toIdentifier(words, isOfAll ? 2 : 3);
+  auto identifiers = book.identifiers;
+  auto balances = book.balances;
+  for (auto const& number : answer.reconciled) {
+    auto const account = find(book, number);
+    auto const whole = wholeOf(account, statements, identifiers.value(number), typed);
+    auto const& [kinds, balance, fault] = statements[whole];
+    checkBinding(book, number, whole, kinds);
+    refuseIf(!fault.isEmpty(), fault);
+    identifiers[number] = whole;
+    balances[number] = reconciled(book, account, balance);
+    answer.messages +=
+        filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
+               presentationText(account.accountNumberBankType, Yes), whole,
+               presentationText(balance.occurredOn), presentationText(balance.balance));
+  }
+  book.identifiers = identifiers; // Either all is taken, or nothing.
+  book.balances = balances;
+
+  auto others = all;
+  others.removeIf(
+      [&](auto const& whole) { return !boundTo(book, whole, statements[whole].kinds).isEmpty(); });
+  auto const text =
+      Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
+  refuseIf(answer.reconciled.isEmpty(), text, others);
+  if (!others.isEmpty()) {
+    answer.messages += filled(text, others);
+  }
+}
+
+void update(Book& book, Words const& words, Answer& /*answer*/)
+{
+  auto const bank = toBank(words);
+  auto const before = accountsOf(book, bank.name());
+  book.banks.update(bank);
+  drop(book, before);
+}
+
+struct Command
+{
+  qsizetype fewest; // words after its name
+  qsizetype most;
+  void (*function)(Book& book, Words const& words, Answer& answer);
+  char const* usage;
+};
+
+std::map<QString, Command> const commands{
+    {"add", {3, 3, &add, QT_TRANSLATE_NOOP("Book", "add NAME NUMBER KIND")}},
+    {"bank", {1, INT_MAX, &addBank, QT_TRANSLATE_NOOP("Book", "bank NAME [NUMBER=KIND ...]")}},
+    {"close", {1, 1, &close, QT_TRANSLATE_NOOP("Book", "close NAME")}},
+    {"forget", {1, 1, &forget, QT_TRANSLATE_NOOP("Book", "forget NUMBER")}},
+    {"identifier", {2, 4, &identify, QT_TRANSLATE_NOOP("Book", "identifier NUMBER IDENTIFIER")}},
+    {"list", {0, 0, &list, QT_TRANSLATE_NOOP("Book", "list")}},
+    {"open", {1, 1, &open, QT_TRANSLATE_NOOP("Book", "open NAME")}},
+    {"reconcile",
+     {4, 4, &reconcile, QT_TRANSLATE_NOOP("Book", "reconcile NUMBER DATE AMOUNT CURRENCY")}},
+    {"remove", {1, 2, &remove, QT_TRANSLATE_NOOP("Book", "remove NAME [NUMBER]")}},
+    {"rename", {2, 2, &rename, QT_TRANSLATE_NOOP("Book", "rename FROM TO")}},
+    {"statement",
+     {1, 5, &statement, QT_TRANSLATE_NOOP("Book", "statement [NUMBER] FILE [IDENTIFIER]")}},
+    {"update", {1, INT_MAX, &update, QT_TRANSLATE_NOOP("Book", "update NAME [NUMBER=KIND ...]")}},
+};
+
+QString usageOf(QString const& command)
+{
+  return Book::tr(commands.at(command).usage);
+}
+
+} // namespace
+
+QString usage()
+{
+  QString text;
+  for (auto const& [name, command] : commands) {
+    text += QStringLiteral("  ") + usageOf(name) + u'\n';
+  }
+  return text + u'\n' +
+         Book::tr("A line holds one command. Straight double quotes hold a word with blanks; \\\" "
+                  "in them is a\nquote, \\\\ a backslash. # begins a comment.\n"
+                  "  KIND        Chequeing, \"Credit Card\", Loan, Savings or Goal\n"
+                  "  DATE        such as 2026-10-31\n"
+                  "  AMOUNT      such as -1250.50, with a point and nothing between thousands\n"
+                  "  CURRENCY    such as CAD\n"
+                  "  IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them\n");
+}
+
+Answer execute(Book& book, QStringList const& words)
+{
+  Answer answer;
+  if (!words.isEmpty()) {
+    auto const found = commands.find(words[0]);
+    refuseIf(found == commands.end(),
+             Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
+    auto const& [fewest, most, function, usage] = found->second;
+    if (words.size() <= fewest || words.size() - 1 > most) {
+      throw writtenOtherwise(words[0]);
+    }
+    function(book, words, answer);
+  }
+  return answer;
+}

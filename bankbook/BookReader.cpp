@@ -1,0 +1,166 @@
+#include "BookReader.hpp"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringDecoder>
+
+#include <cerrno>
+#include <utility>
+
+using mintar::Money;
+
+QString toText(QByteArrayView line)
+{
+  line.chop(line.endsWith('\n') ? 1 : 0);
+  line.chop(line.endsWith('\r') ? 1 : 0);
+  QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  QString const text = decode(line);
+  refuseIf(decode.hasError(), BookError::tr("The line is not UTF-8 text; save the book as UTF-8."));
+  return toPlain(text);
+}
+
+QStringList toWords(QString const& line)
+{
+  QStringList words;
+  QString word;
+  bool inWord = false;
+  bool inQuotes = false;
+  for (qsizetype i = 0; i < line.size() && (inWord || line[i] != u'#'); ++i) {
+    auto const c = line[i];
+    if (!inWord && QStringView(u"“”„‟«»").contains(c)) {
+      throw BookError(BookError::tr("%1 is not a straight double quote."), QString(c));
+    }
+    if (inWord && !inQuotes && c == u' ') {
+      words += std::exchange(word, {});
+    }
+    inWord = inQuotes || c != u' ';
+    if (c == u'"') {
+      inQuotes = !inQuotes;
+    } else if (inWord) {
+      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
+      auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
+      i += isEscape ? 1 : 0;
+      word += isEscape ? next : c;
+    }
+  }
+  refuseIf(inQuotes, BookError::tr("A quoted word does not end; close it with a straight quote."));
+  return inWord ? words << word : words;
+}
+
+QString toLine(QStringList words)
+{
+  static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\“”„‟«»]+$"));
+  for (auto& word : words) {
+    if (!plain.match(word).hasMatch()) {
+      word.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
+      word = u'"' + word + u'"';
+    }
+  }
+  return words.join(u' ');
+}
+
+orv::banking::BankName toBankName(QString const& word)
+{
+  refuseIf(shown(word) != word, BookError::tr("The name '%1' has more than 100 characters."), word);
+  return orv::banking::BankName(word);
+}
+
+orv::accounting::AccountNumber toAccountNumber(QString const& word)
+{
+  // Qt's conversions take signs, spaces and other digits, too.
+  static QRegularExpression const digits(QStringLiteral("^[0-9]+$"));
+  bool fits = false;
+  auto const integer = word.toUInt(&fits);
+  refuseIf(!fits || !digits.match(word).hasMatch(),
+           BookError::tr("'%1' is not an account number such as 1010."), word);
+  return orv::accounting::AccountNumber(integer);
+}
+
+orv::banking::BankAccountTypes toKind(QString const& word)
+{
+  try {
+    return orv::banking::toBankAccountTypes(word);
+  } catch (std::logic_error const&) { // whose text is for programmers
+    throw BookError(BookError::tr("'%1' is no kind of account; the kinds are: Chequeing, "
+                                  "\"Credit Card\", Loan, Savings, Goal."),
+                    word);
+  }
+}
+
+QDate toDate(QString const& word)
+{
+  static QRegularExpression const form(QStringLiteral("^([0-9]{4})-([0-9]{2})-([0-9]{2})$"));
+  auto const day = toDay(form.match(word));
+  refuseIf(!day.isValid(), BookError::tr("'%1' is not a date such as 2026-01-31."), word);
+  return day;
+}
+
+QDate toDay(QRegularExpressionMatch const& digits)
+{
+  return {digits.captured(1).toInt(), digits.captured(2).toInt(), digits.captured(3).toInt()};
+}
+
+bool isCurrency(QString const& word)
+{
+  static QRegularExpression const form(QStringLiteral("^[A-Z]{3}$"));
+  return form.match(word).hasMatch();
+}
+
+Money toMoney(QString const& amount, QString const& currency)
+{
+  static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
+  static std::pair<QString, char const*> const faults[]{
+      {"^([+−–(]|--)|[-−–)]$",
+       QT_TRANSLATE_NOOP("BookError", "The sign of '%1' is wrong; only what you owe has one, -.")},
+      {"^-?[0-9]*,[0-9]+$",
+       QT_TRANSLATE_NOOP("BookError", "'%1' has a comma; decimals follow a point, and nothing "
+                                      "stands between thousands.")},
+      {"[0-9][.,'’ ][0-9]{3}([.,]|$)",
+       QT_TRANSLATE_NOOP("BookError", "'%1' has separators; nothing stands between thousands.")},
+      {"", QT_TRANSLATE_NOOP("BookError", "'%1' is no amount such as -1250.50.")},
+  };
+  refuseIf(!isCurrency(currency), BookError::tr("'%1' is not a currency such as CAD."), currency);
+  mintar::Currency const known(currency);
+  auto const parts = form.match(amount);
+  for (auto const& [fault, text] : faults) {
+    refuseIf(!parts.hasMatch() && amount.contains(QRegularExpression(fault)), BookError::tr(text),
+             amount);
+  }
+  refuseIf(parts.captured(3).size() > known.decimals(),
+           BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "
+                         "between thousands."),
+           amount, currency, QString::number(known.decimals()));
+  auto const money = exactMoney(parts, known);
+  refuseIf(!money, BookError::tr("'%1' is too large."), amount);
+  return *money;
+}
+
+std::optional<Money> exactMoney(QRegularExpressionMatch const& parts,
+                                mintar::Currency const& currency)
+{
+  auto const places = currency.decimals();
+  auto const decimals = parts.captured(3);
+  auto const beyond = decimals.mid(places); // what the currency has not
+  auto const digits = parts.captured(2) + decimals.leftJustified(places, u'0', true);
+  bool fits = false;
+  Money const money(currency, (parts.captured(1) + u'0' + digits).toLongLong(&fits));
+  return fits && beyond.count(u'0') == beyond.size() ? std::optional(money) : std::nullopt;
+}
+
+QString pathOf(QDir const& folder, QString const& fileName)
+{
+  // To Qt, a colon in front means a resource.
+  return folder.filePath(fileName.startsWith(u':') ? QStringLiteral("./") + fileName : fileName);
+}
+
+QByteArray contentOf(QFile& file, QString const& name)
+{
+  auto const isOpen = file.isOpen() || file.open(QIODevice::ReadOnly);
+  auto const content = isOpen ? file.readAll() : QByteArray();
+  if (file.error() != QFile::NoError) {
+    // Of a folder, each system has its own difficulty, and Qt its own words.
+    auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
+    throw BookError(BookError::tr("%1 cannot be read: %2"), name, reason);
+  }
+  return content;
+}

@@ -1,0 +1,199 @@
+#include "OfxReader.hpp"
+
+#include "BookReader.hpp"
+
+#include <foundation/Date.hpp>
+
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+using enum orv::banking::BankAccountTypes;
+using orv::foundation::presentationText; // of a date
+
+namespace {
+
+struct Tag
+{
+  QString name; // in capital letters, without a namespace; empty where there is no tag any more
+  bool isEnd = false;
+  std::size_t begin = std::string_view::npos;
+  std::size_t end = std::string_view::npos;
+};
+
+// The first tag from a place on, past comments, sections, elements like <X/>, and a < that stands for
+// itself.
+Tag nextTag(std::string_view content, std::size_t from)
+{
+  static QRegularExpression const form(
+      QStringLiteral("^<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+(?<!/)>$"),
+      QRegularExpression::CaseInsensitiveOption);
+  for (auto at = content.find('<', from); at < content.size(); at = content.find('<', from)) {
+    auto const rest = content.substr(at);
+    auto const isComment = rest.starts_with("<!--");
+    if (isComment || rest.starts_with("<![")) {
+      auto const end = rest.find(isComment ? "-->" : "]]>");
+      if (end >= std::min(rest.find(rest.substr(0, 3), 3), rest.size())) {
+        break; // It does not end, or only where another does that begins in it.
+      }
+      from = at + end + 3;
+      continue;
+    }
+    auto const tag = rest.substr(0, rest.find_first_of("<>", 1) + 1);
+    auto const match = form.match(QString::fromLatin1(QByteArrayView(tag)));
+    if (match.hasMatch()) {
+      return {match.captured(2).toUpper(), match.capturedLength(1) > 0, at, at + tag.size()};
+    }
+    from = at + 1;
+  }
+  return {};
+}
+
+QString toValue(std::string_view bytes)
+{
+  QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+  QString text = decode(QByteArrayView(bytes));
+  text = decode.hasError() ? QString::fromLatin1(QByteArrayView(bytes)) : text;
+  text.replace("&nbsp;", " ");
+  QXmlStreamReader xml("<v>" + text + "</v>");
+  xml.readNextStartElement();
+  auto const value = xml.readElementText();
+  // In SGML, an ampersand may also stand for itself.
+  return (xml.hasError() ? text : value).simplified();
+}
+
+// What is read of a statement, by element. The elements of its balance are named like LEDGERBAL/BALAMT.
+using Values = QMap<QString, QString>;
+
+// What the bank's type of an account stands for. A goal is money set aside.
+QMap<QString, QList<orv::banking::BankAccountTypes>> const kindsOfTypes{
+    {"CHECKING", {Chequeing}},    {"SAVINGS", {Savings, Goal}}, {"MONEYMRKT", {Savings, Goal}},
+    {"CD", {Savings, Goal}},      {"CREDITLINE", {Loan}},       {"CMA", {Chequeing, Savings, Goal}},
+    {"CREDITCARD", {CreditCard}}, {"INVESTMENT", {}},
+};
+
+// Throws where the bank reports an error.
+void checkStatus(Values const& values)
+{
+  refuseIf(values["SEVERITY"].toUpper() == u"ERROR", BookError::tr("The bank reports an error: %1"),
+           values.value("MESSAGE", values["CODE"]));
+}
+
+// Throws where a value is missing or cannot be read, in the bank's own spelling.
+orv::banking::ReconciledBalance toBalance(Values const& values)
+{
+  // An amount has a point or a comma; a date begins with the day, whatever time and zone follow.
+  static QRegularExpression const amountForm(
+      QStringLiteral("^(?:\\+|(-))?(?=[.,]?[0-9])([0-9]*)(?:[.,]([0-9]+))?$"));
+  static QRegularExpression const dateForm(
+      QStringLiteral("^([0-9]{4})([0-9]{2})([0-9]{2})(?:[0-9]{2}){0,3}(?![0-9])"));
+  checkStatus(values);
+  toPlain(QStringList(values.values()).join(u' '));
+  for (QString const element :
+       {"ACCTID", "ACCTTYPE", "CURDEF", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
+    refuseIf(values[element].isEmpty(), BookError::tr("The statement has no %1."), element);
+  }
+  auto const unreadable = BookError::tr("The statement's %1 '%2' cannot be read.");
+  mintar::Currency const currency(values["CURDEF"]);
+  auto const amount = amountForm.match(values["LEDGERBAL/BALAMT"]);
+  refuseIf(amount.captured(3).size() == 3 && currency.decimals() != 3,
+           BookError::tr("The statement's BALAMT '%1' has three decimals, or thousands."),
+           amount.captured());
+  auto const balance = amount.hasMatch() ? exactMoney(amount, currency) : std::nullopt;
+  auto const day = toDay(dateForm.match(values["LEDGERBAL/DTASOF"]));
+  refuseIf(!isCurrency(currency.isoCode()), unreadable, "CURDEF", currency.isoCode());
+  refuseIf(!balance, unreadable, "BALAMT", values["LEDGERBAL/BALAMT"]);
+  refuseIf(!day.isValid(), unreadable, "DTASOF", values["LEDGERBAL/DTASOF"]);
+  refuseIf(!kindsOfTypes.contains(values["ACCTTYPE"]), unreadable, "ACCTTYPE", values["ACCTTYPE"]);
+  return {*balance, day};
+}
+
+} // namespace
+
+Statements readOfx(QByteArray const& bytes)
+{
+  // The elements that hold others, whose tags tell whether the file is whole. All others are values: in
+  // SGML they may do without end tags, and some banks mistype them.
+  static QRegularExpression const holder(QStringLiteral(
+      "^(?:OFX|SIGNONMSGSRSV1|SONRS|FI|STATUS|(?:BANK|CREDITCARD|INVSTMT)MSGSRSV1|"
+      "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"
+      "(?:EXTD)?PAYEE|(?:ORIG)?CURRENCY|IMAGEDATA|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
+  static QRegularExpression const wanted(QStringLiteral(
+      "^/OFX/(?:.*/)?(?:(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?|INVSTMTRS/INVACCTFROM/|STATUS/)"
+      "(CURDEF|BANKID|BRANCHID|BROKERID|ACCTID|ACCTTYPE|ACCTKEY|LEDGERBAL/BALAMT|LEDGERBAL/"
+      "DTASOF|CODE|SEVERITY|MESSAGE)$"));
+  // Where all that may stand is known, text in any other element has been torn from a value.
+  static QRegularExpression const narrow(QStringLiteral("STMTRS/(?:LEDGERBAL|[A-Z]+ACCTFROM)/$"));
+  QList<Values> statements;
+  Values status;      // which the bank gives the statement that follows
+  QString path(u'/'); // of the elements that hold the tag
+  QString open;       // the value before the tag, if no other tag stands between
+  bool isOfx = false;
+  bool isDamaged = false;
+  std::string_view const content(bytes.data(), static_cast<std::size_t>(bytes.size()));
+  for (auto tag = nextTag(content, 0), next = tag; !tag.name.isEmpty() && !isDamaged; tag = next) {
+    next = nextTag(content, tag.end);
+    auto const text = content.substr(tag.end, next.begin - tag.end);
+    auto const step = tag.name + u'/';
+    auto const value = wanted.match(path + tag.name).captured(1);
+    auto const before = std::exchange(open, QString());
+    if (holder.match(tag.name).hasMatch() && tag.isEnd) {
+      isDamaged = !path.endsWith(u'/' + step);
+      path.chop(step.size());
+    } else if (holder.match(tag.name).hasMatch()) {
+      auto const isStatement = step.endsWith(u"STMTRS/");
+      // No whole file is deeper: in one that is, each step would take longer than the last.
+      isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/")) ||
+                  (step == u"OFX/" && std::exchange(isOfx, true));
+      path += step;
+      if (isStatement && path.startsWith(u"/OFX/")) {
+        statements += status;
+        if (tag.name != u"STMTRS") {
+          statements.last()["ACCTTYPE"] = tag.name == u"CCSTMTRS" ? "CREDITCARD" : "INVESTMENT";
+        }
+      } else if (tag.name == u"STATUS") {
+        status.clear();
+      }
+    } else if (!value.isEmpty() && !tag.isEnd) {
+      auto& values = path.endsWith(u"/STATUS/") ? status : statements.last();
+      isDamaged = values.contains(value); // What is said twice is damaged.
+      values[value] = value == u"ACCTTYPE" ? toValue(text).toUpper() : toValue(text);
+      open = tag.name;
+    } else if (!value.isEmpty() || !before.isEmpty() || narrow.match(path).hasMatch()) {
+      isDamaged = (!value.isEmpty() && before != tag.name) || !toValue(text).isEmpty();
+    }
+  }
+  refuseIf(isDamaged || path != u"/",
+           BookError::tr("The file is cut short, damaged, or several files in one."));
+  refuseIf(bytes.trimmed().isEmpty(), BookError::tr("The file is empty."));
+  toPlain(QString(!isOfx && bytes.contains('\0') ? 1 : 0, u'\0')); // which UTF-16 has
+  refuseIf(!isOfx,
+           BookError::tr("The file is not OFX; download the statement as OFX, QFX or Money, "
+                         "not as PDF, CSV or QIF."));
+  Statements result;
+  for (auto const& values : statements) {
+    auto const type = values["ACCTTYPE"];
+    QStringList const whole{values["ACCTID"], type, values["BANKID"]};
+    auto& [kinds, latest, fault] = result[toLine(type == u"CREDITCARD" ? whole.mid(0, 2) : whole)];
+    kinds = kindsOfTypes.value(type, {Chequeing, CreditCard, Loan, Savings, Goal});
+    try {
+      auto const next = toBalance(values);
+      refuseIf(next.occurredOn == latest.occurredOn && !(next.balance == latest.balance),
+               BookError::tr("The file has two balances of %1: %2 and %3."),
+               presentationText(next.occurredOn), presentationText(latest.balance),
+               presentationText(next.balance));
+      latest = next.occurredOn > latest.occurredOn ? next : latest;
+    } catch (BookError const& error) {
+      fault = error.what();
+    }
+  }
+  if (result.isEmpty()) {
+    checkStatus(status);
+    throw BookError(BookError::tr("The file has no statement of a bank account or a credit card."));
+  }
+  return result;
+}

@@ -1,0 +1,151 @@
+#include "Data.hpp"
+#include "support/Testing.hpp"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#if __has_include(<sys/resource.h>)
+#include <sys/resource.h>
+#include <unistd.h>
+#endif
+
+using namespace testing;
+
+struct Result
+{
+  int status;
+  std::string shown;
+  std::string told;
+};
+
+// Runs bankbook with these lines on standard input, in an environment without a language.
+static Result run(
+    QStringList arguments, QByteArray const& lines,
+    std::function<void(QProcess&)> const& prepare = [](QProcess&) {})
+{
+  QProcess process;
+  auto environment = QProcessEnvironment::systemEnvironment();
+  for (auto const* const variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+    environment.remove(variable);
+  }
+  environment.insert("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
+  process.setProcessEnvironment(environment);
+  process.setWorkingDirectory(DATA "/../..");
+  prepare(process);
+  arguments = QStringList BANKBOOK + arguments;
+  process.start(arguments.takeFirst(), arguments);
+  process.write(lines);
+  process.closeWriteChannel();
+  EXPECT_TRUE(process.waitForFinished(300000) && process.exitStatus() == QProcess::NormalExit);
+  // From 6.8 on, Qt complains where the locale is not one for UTF-8.
+  static QRegularExpression const complaint("(?s)^Detected locale .*for more information\\.\n");
+  auto const read = [](QByteArray text) {
+    return coded(QString::fromUtf8(text.replace("\r\n", "\n")).remove(complaint));
+  };
+  return {process.exitCode(), read(process.readAllStandardOutput()),
+          read(process.readAllStandardError())};
+}
+
+// With the bytes and the days that cannot stand in a text file.
+static QByteArray filled(QStringList const& lines)
+{
+  auto const today = QDate::currentDate();
+  auto text = lines.join("\n").toUtf8();
+  text.replace("TODAY", today.toString(Qt::ISODate).toUtf8());
+  text.replace("TOMORROW", today.addDays(1).toString(Qt::ISODate).toUtf8());
+  for (auto const* const code : {"00", "0D", "1B", "C3"}) {
+    text.replace(QByteArray("\\x") + code, QByteArray::fromHex(code));
+  }
+  return text;
+}
+
+class Session : public TestWithParam<std::string>
+{
+};
+
+// A file has the arguments after "$ ", what is typed after "< ", what is shown after "> ", what is told after
+// "! ", and the status after "= ". A ... at the end of a line stands for any rest.
+TEST_P(Session, GoesAsExpected)
+{
+  auto const name = QString::fromStdString("sessions/" + GetParam() + ".txt");
+  QMap<QChar, QStringList> parts;
+  for (auto const& line : textOf(name).split('\n')) {
+    parts[line.isEmpty() ? u' ' : line[0]] += line.mid(2);
+  }
+  auto const arguments = QString::fromUtf8(filled(parts['$'])).split(' ', Qt::SkipEmptyParts);
+  auto const [status, shown, told] = run(arguments, filled(parts['<']));
+  EXPECT_EQ(parts['='], QStringList(QString::number(status))) << name.toStdString() << told;
+  auto const compare = [&](QChar mark, std::string const& text) {
+    auto given = QString::fromStdString(text).split('\n');
+    given.removeLast();
+    for (qsizetype i = 0; i < qMin(given.size(), parts[mark].size()); ++i) {
+      if (auto const& expected = parts[mark][i]; expected.endsWith("...")) {
+        given[i] = given[i].left(expected.size() - 3) + "...";
+      }
+    }
+    EXPECT_EQ(given.join('\n'), parts[mark].join('\n')) << name.toStdString();
+  };
+  compare('>', shown);
+  compare('!', told);
+}
+
+INSTANTIATE_TEST_SUITE_P(Program, Session, ValuesIn(filesIn("sessions")),
+                         [](auto const& info) { return plain(info.param); });
+
+TEST(Program, SpeaksOneLanguage)
+{
+  auto const program = (QStringList BANKBOOK).last();
+  if (!QFileInfo::exists(QFileInfo(program).path() + "/../share/bankbook")) {
+    GTEST_SKIP() << "It is built without its translations.";
+  }
+  EXPECT_THAT(run({"--locale", "de_DE@euro", "-"}, "fly\nclose Elm").told,
+              AllOf(StartsWith("Standardeingabe:1: Den Befehl „fly“ gibt es nicht"),
+                    HasSubstr(":2: Es gibt ein Problem mit der Bank „Elm“.")));
+  auto const toFrench = [](QProcess& process) {
+    auto environment = process.processEnvironment();
+    environment.insert("LANG", "it_IT.UTF-8");
+    environment.insert("LANGUAGE", "it:fr");
+    process.setProcessEnvironment(environment);
+  };
+  EXPECT_THAT(run({"-"}, "fly\nclose Elm", toFrench).told,
+              AllOf(HasSubstr("«\\u{A0}fly\\u{A0}»"), HasSubstr("«\\u{A0}Elm\\u{A0}»")));
+}
+
+#if __has_include(<sys/resource.h>)
+TEST(Program, EndsWhereItCannotReadOrWrite)
+{
+  auto const toFull = [](QProcess& process) { process.setStandardOutputFile("/dev/full"); };
+  EXPECT_THAT(run({"-"}, "list\nfly\n", toFull),
+              FieldsAre(2, "", "Standard output cannot be written.\n"));
+  EXPECT_EQ(run({"--help"}, {}, toFull).status, 2);
+  auto const closed = [](QProcess& process) {
+    process.setChildProcessModifier([] { close(STDIN_FILENO); });
+  };
+  EXPECT_THAT(run({"-"}, {}, closed),
+              FieldsAre(2, "", StartsWith("standard input cannot be read")));
+  // It opens, and cannot be read.
+  EXPECT_THAT(run({"/proc/self/mem"}, {}),
+              FieldsAre(2, "", StartsWith("/proc/self/mem cannot be")));
+  EXPECT_THAT(run({"-"}, "bank Elm 1=Loan\nstatement 1 /dev/zero"),
+              FieldsAre(1, "", HasSubstr(":2: /dev/zero is not a file.\n")));
+}
+
+// The sanitizers take more memory than a limit could leave them.
+#if !defined(__clang__) && !defined(__SANITIZE_THREAD__)
+TEST(Program, EndsWhereTheMemoryDoesNotSuffice)
+{
+  QTemporaryDir const folder;
+  QFile file(folder.filePath("large.ofx"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(1'000'000'000));
+  auto const limit = [](QProcess& process) {
+    process.setChildProcessModifier([] {
+      rlimit const bytes{500'000'000, 500'000'000};
+      setrlimit(RLIMIT_AS, &bytes);
+    });
+  };
+  auto const lines = "bank Elm 1=Loan\nstatement 1 \"" + file.fileName().toUtf8() + "\"\nlist";
+  EXPECT_THAT(run({"-"}, lines, limit), FieldsAre(2, "", "There is not enough memory.\n"));
+}
+#endif
+#endif
