@@ -123,9 +123,9 @@ Statements readOfx(QByteArray const& bytes)
       "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"
       "(?:EXTD)?PAYEE|(?:ORIG)?CURRENCY|IMAGEDATA|LEDGERBAL|AVAILBAL|BALLIST|BAL)$"));
   static QRegularExpression const wanted(QStringLiteral(
-      "^/OFX/(?:.*/)?(?:(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?|INVSTMTRS/INVACCTFROM/|STATUS/)"
-      "(CURDEF|BANKID|BRANCHID|BROKERID|ACCTID|ACCTTYPE|ACCTKEY|LEDGERBAL/BALAMT|LEDGERBAL/"
-      "DTASOF|CODE|SEVERITY|MESSAGE)$"));
+      "^/OFX/(?:.*/)?(?|STATUS/(CODE|SEVERITY|MESSAGE)|"
+      "(?:(?:CC)?STMTRS/(?:(?:BANK|CC)ACCTFROM/)?|INVSTMTRS/INVACCTFROM/)"
+      "(CURDEF|B(?:ANK|RANCH|ROKER)ID|ACCT(?:ID|TYPE|KEY)|LEDGERBAL/(?:BALAMT|DTASOF)))$"));
   // Where all that may stand is known, text in any other element has been torn from a value.
   static QRegularExpression const narrow(QStringLiteral("STMTRS/(?:LEDGERBAL|[A-Z]+ACCTFROM)/$"));
   QList<Values> statements;
@@ -170,15 +170,17 @@ Statements readOfx(QByteArray const& bytes)
   refuseIf(isDamaged || path != u"/",
            BookError::tr("The file is cut short, damaged, or several files in one."));
   refuseIf(bytes.trimmed().isEmpty(), BookError::tr("The file is empty."));
-  toPlain(QString(!isOfx && bytes.contains('\0') ? 1 : 0, u'\0')); // which UTF-16 has
+  auto const isUtf16 = bytes.contains(QByteArray("O\0F\0X", 5));
+  toPlain(isUtf16 ? QString(QChar(0)) : QString()); // which says how to save it
   refuseIf(!isOfx,
            BookError::tr("The file is not OFX; download the statement as OFX, QFX or Money, "
                          "not as PDF, CSV or QIF."));
   Statements result;
   for (auto const& values : statements) {
     auto const type = values["ACCTTYPE"];
+    auto const isCard = type == u"CREDITCARD" && values["BANKID"].isEmpty();
     QStringList const whole{values["ACCTID"], type, values["BANKID"]};
-    auto& [kinds, latest, fault] = result[toLine(type == u"CREDITCARD" ? whole.mid(0, 2) : whole)];
+    auto& [kinds, latest, fault] = result[toLine(isCard ? whole.mid(0, 2) : whole)];
     kinds = kindsOfTypes.value(type, {Chequeing, CreditCard, Loan, Savings, Goal});
     try {
       auto const next = toBalance(values);

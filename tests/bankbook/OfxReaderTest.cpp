@@ -56,8 +56,8 @@ TEST(Ofx, IsReadWhateverItsSizeAndEncoding)
   QByteArray const deep =
       QByteArray("<PAYEE>").repeated(100'000) + QByteArray("</PAYEE>").repeated(100'000);
   EXPECT_EQ(outcome(QByteArray(content).replace("<NAME>", deep)), damaged);
-  EXPECT_TRUE(
-      outcome(QByteArray("<\0O\0", 4)).startsWith("The character \\u{0} cannot be shown; save"));
+  EXPECT_TRUE(outcome(QByteArray("<\0O\0F\0X\0", 8))
+                  .startsWith("The character \\u{0} cannot be shown; save"));
   EXPECT_TRUE(
       outcome(QByteArray(content).replace(">INFO", ">ERROR<MESSAGE>\xE9t\xE9")).endsWith(": été"));
 }
