@@ -3,6 +3,7 @@
 #include <banking/BankMap.hpp>
 #include <banking/ReconciledBalance.hpp>
 #include <banking/ReconciledBankAccount.hpp>
+#include <foundation/Date.hpp>
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -100,4 +101,25 @@ inline mintar::Money toMoney(QString const& text, mintar::Currency const& curren
   require(match.hasMatch() && fits && decimals.size() <= currency.decimals(),
           Books::tr("'%1' is not an amount in %2.").arg(text, currency.isoCode()));
   return amount;
+}
+
+/// Reads a date as the user's locale writes it, with all digits of the year, or in ISO 8601.
+/// \throws UserError if the text is none
+inline QDate toDate(QString const& text)
+{
+  static QRegularExpression const shortYear(u"(?<!y)yy(?!y)"_s);
+  static QRegularExpression const twoDigits(u"(?<![dM])([dM])\\1(?![dM])"_s);
+  static QRegularExpression const marks(u"\\p{Cf}"_s);
+  auto const format = QLocale()
+                          .dateFormat(QLocale::ShortFormat)
+                          .remove(marks)
+                          .replace(shortYear, u"yyyy"_s)
+                          .replace(twoDigits, u"\\1"_s);
+  auto const plain = QString(text).remove(marks).trimmed();
+  auto const local = QLocale().toDate(plain, format);
+  auto const date = local.isValid() ? local : QDate::fromString(plain, Qt::ISODate);
+  require(date.isValid() && date.year() > 0,
+          Books::tr("'%1' is not a date such as %2.")
+              .arg(text, orv::foundation::presentationText(QDate::currentDate())));
+  return date;
 }

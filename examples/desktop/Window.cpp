@@ -2,8 +2,6 @@
 
 #include "Session.hpp"
 
-#include <foundation/Date.hpp>
-
 #include <QtWidgets>
 
 namespace {
@@ -87,7 +85,9 @@ public:
     model_.setHorizontalHeaderLabels(
         {tr("Bank, account"), tr("Kind"), tr("Balance"), tr("Reconciled on")});
     view_->setModel(&model_);
+    view_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     view_->setEditTriggers(QTreeView::NoEditTriggers);
+    view_->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { run([this] { enableCommands(); }); });
 
@@ -121,26 +121,23 @@ public:
       auto const name = bank()->name();
       session_.change([&](Books& books) { books.banks.remove(name, account()); });
     });
-    resize(720, 480);
+    setWindowTitle(file.isEmpty() ? tr("Example, which is not kept") : QFileInfo(file).fileName());
+    resize(640, 480);
     refresh();
     view_->expandAll();
-    for (int column = 0; column < model_.columnCount(); ++column) {
-      view_->resizeColumnToContents(column);
-    }
   }
 
 private:
   void addCommand(QMenu* menu, QString const& text, QKeySequence const& keys,
                   auto const& isPossible, auto const& carryOut)
   {
-    auto* const action = menu->addAction(text);
-    action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, [this, carryOut] {
+    auto* const action = menu->addAction(text, keys, this, [this, carryOut] {
       run([&] {
         carryOut();
         refresh();
       });
     });
+    view_->addAction(action); // to its context menu
     commands_.emplace_back(action, isPossible);
   }
 
@@ -212,15 +209,13 @@ private:
                           : last->second.balance.currency().isoCode();
     auto* const amount = new QLineEdit;
     auto* const currency = new QLineEdit(code);
-    auto* const date = new QDateEdit(QDate::currentDate());
-    date->setDisplayFormat(QLocale()
-                               .dateFormat(QLocale::ShortFormat)
-                               .replace(QRegularExpression(u"(?<!y)yy(?!y)"_s), u"yyyy"_s));
-    date->setCalendarPopup(true);
+    auto* const date = new QLineEdit(orv::foundation::presentationText(QDate::currentDate()));
     ask(tr("Reconcile Account %1").arg(presentationText(number)),
         {{tr("&Balance:"), amount}, {tr("&Currency:"), currency}, {tr("&Date:"), date}}, [&] {
           auto const balance = toMoney(amount->text(), toCurrency(currency->text().toUpper()));
-          session_.change([&](Books& books) { reconcile(books, number, {balance, date->date()}); });
+          session_.change([&](Books& books) {
+            reconcile(books, number, {balance, toDate(date->text())});
+          });
         });
   }
 
@@ -264,9 +259,9 @@ private:
   {
     ::update(model_, session_.books());
     problems_->setVisible(!session_.problems().isEmpty());
-    problems_->setPlainText(tr("Nothing can be changed, as these rows of the file cannot be read "
-                               "and would be lost:\n") +
-                            session_.problems().join(u'\n'));
+    problems_->setPlainText(
+        tr("Nothing can be changed, or these rows, which cannot be read, would be lost:") + u'\n' +
+        session_.problems().join(u'\n'));
     enableCommands();
   }
 

@@ -197,10 +197,10 @@ TEST_F(DesktopTest, TheWindowKeepsToTheRules)
   EXPECT_EQ(messages_.join(u'\n'), "The bank holds account 100 as Loan. Change it to Chequeing?");
   view->setCurrentIndex(view->model()->index(1, 0, view->currentIndex()));
   messages_.clear();
-  give("Reconcile…", {"-1,000.50\t\t20260330\r", "\r", "\x1b"});
+  give("Reconcile…", {"-1,000.50\t\t2026-3-30\r", "\r", "\x1b"});
   EXPECT_THAT(messages_.join(u'\n').toStdString(),
               testing::HasSubstr("cannot be updated to be in the past"));
-  give("Reconcile…", {"-1,000.50\t\t20260331\r"});
+  give("Reconcile…", {"-1,000.50\t\t2026-3-31\r"});
   EXPECT_EQ(view->currentIndex().siblingAtColumn(2).data().toString(),
             presentationText(Money(Currency("CAD"), -100050)));
   EXPECT_TRUE(command("Rename…")->isEnabled());
