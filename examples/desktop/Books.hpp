@@ -61,6 +61,13 @@ inline void dropLostBalances(Books& books)
   std::erase_if(books.balances, [&](auto const& entry) { return !held.contains(entry.first); });
 }
 
+/// Returns a text without what does not show: marks of direction, and white space around it.
+inline QString visible(QString text)
+{
+  static QRegularExpression const marks(u"\\p{Cf}"_s);
+  return text.remove(marks).trimmed();
+}
+
 /// Reads an account number. \throws UserError if the text is none
 inline AccountNumber toAccountNumber(QString const& text)
 {
@@ -84,9 +91,8 @@ inline mintar::Money toMoney(QString const& text, mintar::Currency const& curren
 {
   auto const group = QRegularExpression::escape(QLocale().groupSeparator());
   auto const point = QRegularExpression::escape(QLocale().decimalPoint());
-  // Keyboards have no keys for some signs, spaces and apostrophes; marks of direction do not show.
-  static QRegularExpression const marks(u"\\p{Cf}"_s);
-  auto const plain = QString(text).remove(marks).replace(QChar(0x2212), u'-').trimmed();
+  // Keyboards have no keys for some of the signs, spaces and apostrophes that locales write.
+  auto const plain = visible(text).replace(QChar(0x2212), u'-');
   QRegularExpression const form(
       u"^(-?)(\\d+|\\d{1,3}(?:[%1\\s']\\d{2,3})*[%1\\s']\\d{3})(?:%2(\\d+))?$"_s.arg(group, point),
       QRegularExpression::UseUnicodePropertiesOption);
@@ -109,15 +115,10 @@ inline QDate toDate(QString const& text)
 {
   static QRegularExpression const shortYear(u"(?<!y)yy(?!y)"_s);
   static QRegularExpression const twoDigits(u"(?<![dM])([dM])\\1(?![dM])"_s);
-  static QRegularExpression const marks(u"\\p{Cf}"_s);
-  auto const format = QLocale()
-                          .dateFormat(QLocale::ShortFormat)
-                          .remove(marks)
-                          .replace(shortYear, u"yyyy"_s)
-                          .replace(twoDigits, u"\\1"_s);
-  auto const plain = QString(text).remove(marks).trimmed();
-  auto const local = QLocale().toDate(plain, format);
-  auto const date = local.isValid() ? local : QDate::fromString(plain, Qt::ISODate);
+  auto format = visible(QLocale().dateFormat(QLocale::ShortFormat));
+  format.replace(shortYear, u"yyyy"_s).replace(twoDigits, u"\\1"_s);
+  auto const local = QLocale().toDate(visible(text), format);
+  auto const date = local.isValid() ? local : QDate::fromString(visible(text), Qt::ISODate);
   require(date.isValid() && date.year() > 0,
           Books::tr("'%1' is not a date such as %2.")
               .arg(text, orv::foundation::presentationText(QDate::currentDate())));

@@ -16,8 +16,7 @@ public:
       : database_(QSqlDatabase::addDatabase(u"QSQLITE"_s, QUuid::createUuid().toString()))
   {
     database_.setDatabaseName(file.isEmpty() ? u":memory:"_s : file);
-    database_.setConnectOptions(
-        u"QSQLITE_BUSY_TIMEOUT=1000"_s); // milliseconds in which a window hangs
+    database_.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=1000"_s); // in milliseconds
   }
 
   ~Store()
@@ -46,8 +45,9 @@ public:
              auto const kind = fromNonLocalisedText(row[2]).value_or(BankAccountTypes::Unknown);
              require(kind != BankAccountTypes::Unknown,
                      tr("'%1' is not a kind of account.").arg(row[2]));
-             accounts[BankName(row[1])].emplace(number, kind);
-             if (!row[3].isNull()) {
+             auto const isNew = accounts[BankName(row[1])].emplace(number, kind).second;
+             require(isNew, tr("It is there twice."));
+             if (!row[3].isEmpty() || !row[4].isEmpty() || !row[5].isEmpty()) {
                bool isInteger = false;
                mintar::Money const amount(toCurrency(row[3]), row[4].toLongLong(&isInteger));
                auto const date = QDate::fromString(row[5], Qt::ISODate);
@@ -59,7 +59,10 @@ public:
       read(u"SELECT name, closed FROM banks"_s, tr("Bank %1: %2"), problems,
            [&](QStringList const& row) {
              BankName const name(row[0]);
-             banks.emplace(name, Bank(name, accounts[name], row[1] == u"1"));
+             auto const isNew =
+                 banks.emplace(name, Bank(name, accounts[name], row[1] == u"1")).second;
+             require(isNew, tr("It is there twice."));
+             require(row[1] == u"0" || row[1] == u"1", tr("'%1' is not 0 or 1.").arg(row[1]));
            });
       books.banks = BankMap(std::move(banks));
     });

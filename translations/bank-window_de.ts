@@ -1,200 +1,212 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="fr">
+<TS version="2.1" language="de_DE">
 <context>
     <name>Books</name>
     <message>
         <source>&apos;%1&apos; is not an account number.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte.</translation>
+        <translation>„%1“ ist keine Kontonummer.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency such as CAD.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
+        <translation>„%1“ ist keine Währung wie EUR.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount in %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2.</translation>
+        <translation>„%1“ ist kein Betrag in %2.</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation>fermée</translation>
+        <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as %2.</source>
+        <translation>„%1“ ist kein Datum wie %2.</translation>
     </message>
 </context>
 <context>
     <name>Session</name>
     <message>
         <source>Rows of the file that cannot be read would be lost.</source>
-        <translation>Les lignes illisibles du fichier seraient perdues.</translation>
+        <translation>Zeilen der Datei, die nicht gelesen werden können, gingen verloren.</translation>
     </message>
 </context>
 <context>
     <name>Store</name>
     <message>
         <source>Account %1: %2</source>
-        <translation>Compte %1&#xa0;: %2</translation>
+        <translation>Konto %1: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a kind of account.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte.</translation>
+        <translation>„%1“ ist keine Kontoart.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; and &apos;%2&apos; are not an amount and a date.</source>
-        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ne sont pas un montant et une date.</translation>
+        <translation>„%1“ und „%2“ sind nicht Betrag und Datum.</translation>
     </message>
     <message>
         <source>Bank %1: %2</source>
-        <translation>Banque %1&#xa0;: %2</translation>
+        <translation>Bank %1: %2</translation>
     </message>
     <message>
         <source>Another window has changed the file. Reload it, then make your change again.</source>
-        <translation>Une autre fenêtre a modifié le fichier. Rechargez-le, puis refaites votre modification.</translation>
+        <translation>Ein anderes Fenster hat die Datei geändert. Laden Sie sie neu und wiederholen Sie dann Ihre Änderung.</translation>
     </message>
     <message>
         <source>The file holds something else, or was made by a newer program.</source>
-        <translation>Le fichier contient autre chose ou provient d’un programme plus récent.</translation>
+        <translation>Die Datei enthält etwas anderes oder stammt von einem neueren Programm.</translation>
     </message>
     <message>
         <source>The file cannot be read or written: %1</source>
-        <translation>Lecture ou écriture du fichier impossible&#xa0;: %1</translation>
+        <translation>Die Datei kann nicht gelesen oder geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>It is there twice.</source>
+        <translation>Es ist doppelt vorhanden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not 0 or 1.</source>
+        <translation>„%1“ ist weder 0 noch 1.</translation>
     </message>
 </context>
 <context>
     <name>Window</name>
     <message>
         <source>Bank, account</source>
-        <translation>Banque, compte</translation>
+        <translation>Bank, Konto</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation>Type</translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation>Solde</translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Reconciled on</source>
-        <translation>Rapproché le</translation>
+        <translation>Abgeglichen am</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Recharger</translation>
+        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Édition</translation>
+        <translation>B&amp;earbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation>&amp;Banque</translation>
+        <translation>&amp;Bank</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation>&amp;Nouvelle…</translation>
+        <translation>&amp;Neu …</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation>&amp;Renommer…</translation>
+        <translation>&amp;Umbenennen …</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Fermer</translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>Re&amp;open</source>
-        <translation>R&amp;ouvrir</translation>
+        <translation>Wieder ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Re&amp;move Bank</source>
-        <translation>&amp;Supprimer la banque</translation>
+        <translation>Bank &amp;entfernen</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation>&amp;Compte</translation>
+        <translation>&amp;Konto</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation>&amp;Ajouter…</translation>
+        <translation>&amp;Hinzufügen …</translation>
     </message>
     <message>
         <source>Re&amp;concile…</source>
-        <translation>Ra&amp;pprocher…</translation>
+        <translation>&amp;Abgleichen …</translation>
     </message>
     <message>
         <source>Re&amp;move Account</source>
-        <translation>&amp;Supprimer le compte</translation>
+        <translation>Konto &amp;entfernen</translation>
     </message>
     <message>
         <source>Example, which is not kept</source>
-        <translation>Exemple, qui n’est pas conservé</translation>
+        <translation>Beispiel, das nicht aufbewahrt wird</translation>
     </message>
     <message>
         <source>New Bank</source>
-        <translation>Nouvelle banque</translation>
+        <translation>Neue Bank</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom&#xa0;:</translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>Rename Bank</source>
-        <translation>Renommer la banque</translation>
+        <translation>Bank umbenennen</translation>
     </message>
     <message>
         <source>Add Account</source>
-        <translation>Ajouter un compte</translation>
+        <translation>Konto hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Number:</source>
-        <translation>&amp;Numéro&#xa0;:</translation>
+        <translation>&amp;Nummer:</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation>&amp;Type&#xa0;:</translation>
+        <translation>&amp;Art:</translation>
     </message>
     <message>
         <source>The bank holds account %1 as %2. Change it to %3?</source>
-        <translation>La banque a déjà le compte %1, de type %2. Remplacer ce type par %3?</translation>
+        <translation>Die Bank führt das Konto %1 als %2. In %3 ändern?</translation>
     </message>
     <message>
         <source>Reconcile Account %1</source>
-        <translation>Rapprocher le compte %1</translation>
+        <translation>Konto %1 abgleichen</translation>
     </message>
     <message>
         <source>&amp;Balance:</source>
-        <translation>&amp;Solde&#xa0;:</translation>
+        <translation>&amp;Saldo:</translation>
     </message>
     <message>
         <source>&amp;Currency:</source>
-        <translation>&amp;Devise&#xa0;:</translation>
+        <translation>&amp;Währung:</translation>
     </message>
     <message>
         <source>&amp;Date:</source>
-        <translation>D&amp;ate&#xa0;:</translation>
+        <translation>&amp;Datum:</translation>
     </message>
     <message>
         <source>The program has a fault: %1</source>
-        <translation>Le programme a une erreur&#xa0;: %1</translation>
+        <translation>Das Programm hat einen Fehler: %1</translation>
     </message>
     <message>
         <source>Nothing can be changed, or these rows, which cannot be read, would be lost:</source>
-        <translation>Aucune modification n’est possible, car ces lignes illisibles seraient perdues&#xa0;:</translation>
+        <translation>Nichts kann geändert werden, da sonst diese nicht lesbaren Zeilen verloren gingen:</translation>
     </message>
 </context>
 </TS>

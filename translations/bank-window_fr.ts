@@ -1,200 +1,212 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE">
+<TS version="2.1" language="fr">
 <context>
     <name>Books</name>
     <message>
         <source>&apos;%1&apos; is not an account number.</source>
-        <translation>„%1“ ist keine Kontonummer.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de compte.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency such as CAD.</source>
-        <translation>„%1“ ist keine Währung wie EUR.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount in %2.</source>
-        <translation>„%1“ ist kein Betrag in %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2.</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation>geschlossen</translation>
+        <translation>fermée</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date comme %2.</translation>
     </message>
 </context>
 <context>
     <name>Session</name>
     <message>
         <source>Rows of the file that cannot be read would be lost.</source>
-        <translation>Zeilen der Datei, die nicht gelesen werden können, gingen verloren.</translation>
+        <translation>Les lignes illisibles du fichier seraient perdues.</translation>
     </message>
 </context>
 <context>
     <name>Store</name>
     <message>
         <source>Account %1: %2</source>
-        <translation>Konto %1: %2</translation>
+        <translation>Compte %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a kind of account.</source>
-        <translation>„%1“ ist keine Kontoart.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; and &apos;%2&apos; are not an amount and a date.</source>
-        <translation>„%1“ und „%2“ sind nicht Betrag und Datum.</translation>
+        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ne sont pas un montant et une date.</translation>
     </message>
     <message>
         <source>Bank %1: %2</source>
-        <translation>Bank %1: %2</translation>
+        <translation>Banque %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Another window has changed the file. Reload it, then make your change again.</source>
-        <translation>Ein anderes Fenster hat die Datei geändert. Laden Sie sie neu und wiederholen Sie dann Ihre Änderung.</translation>
+        <translation>Une autre fenêtre a modifié le fichier. Rechargez-le, puis refaites votre modification.</translation>
     </message>
     <message>
         <source>The file holds something else, or was made by a newer program.</source>
-        <translation>Die Datei enthält etwas anderes oder stammt von einem neueren Programm.</translation>
+        <translation>Le fichier contient autre chose ou provient d’un programme plus récent.</translation>
     </message>
     <message>
         <source>The file cannot be read or written: %1</source>
-        <translation>Die Datei kann nicht gelesen oder geschrieben werden: %1</translation>
+        <translation>Lecture ou écriture du fichier impossible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>It is there twice.</source>
+        <translation>Cette ligne est en double.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not 0 or 1.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni 0 ni 1.</translation>
     </message>
 </context>
 <context>
     <name>Window</name>
     <message>
         <source>Bank, account</source>
-        <translation>Bank, Konto</translation>
+        <translation>Banque, compte</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation>Art</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation>Saldo</translation>
+        <translation>Solde</translation>
     </message>
     <message>
         <source>Reconciled on</source>
-        <translation>Abgeglichen am</translation>
+        <translation>Rapproché le</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
+        <translation>&amp;Recharger</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>B&amp;earbeiten</translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation>&amp;Bank</translation>
+        <translation>&amp;Banque</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation>&amp;Neu …</translation>
+        <translation>&amp;Nouvelle…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation>&amp;Umbenennen …</translation>
+        <translation>&amp;Renommer…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation>&amp;Schließen</translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>Re&amp;open</source>
-        <translation>Wieder ö&amp;ffnen</translation>
+        <translation>R&amp;ouvrir</translation>
     </message>
     <message>
         <source>Re&amp;move Bank</source>
-        <translation>Bank &amp;entfernen</translation>
+        <translation>&amp;Supprimer la banque</translation>
     </message>
     <message>
         <source>&amp;Account</source>
-        <translation>&amp;Konto</translation>
+        <translation>&amp;Compte</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation>&amp;Hinzufügen …</translation>
+        <translation>&amp;Ajouter…</translation>
     </message>
     <message>
         <source>Re&amp;concile…</source>
-        <translation>&amp;Abgleichen …</translation>
+        <translation>Ra&amp;pprocher…</translation>
     </message>
     <message>
         <source>Re&amp;move Account</source>
-        <translation>Konto &amp;entfernen</translation>
+        <translation>&amp;Supprimer le compte</translation>
     </message>
     <message>
         <source>Example, which is not kept</source>
-        <translation>Beispiel, das nicht aufbewahrt wird</translation>
+        <translation>Exemple, qui n’est pas conservé</translation>
     </message>
     <message>
         <source>New Bank</source>
-        <translation>Neue Bank</translation>
+        <translation>Nouvelle banque</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Name:</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Rename Bank</source>
-        <translation>Bank umbenennen</translation>
+        <translation>Renommer la banque</translation>
     </message>
     <message>
         <source>Add Account</source>
-        <translation>Konto hinzufügen</translation>
+        <translation>Ajouter un compte</translation>
     </message>
     <message>
         <source>&amp;Number:</source>
-        <translation>&amp;Nummer:</translation>
+        <translation>&amp;Numéro&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Kind:</source>
-        <translation>&amp;Art:</translation>
+        <translation>&amp;Type&#xa0;:</translation>
     </message>
     <message>
         <source>The bank holds account %1 as %2. Change it to %3?</source>
-        <translation>Die Bank führt das Konto %1 als %2. In %3 ändern?</translation>
+        <translation>La banque a déjà le compte %1, de type %2. Remplacer ce type par %3?</translation>
     </message>
     <message>
         <source>Reconcile Account %1</source>
-        <translation>Konto %1 abgleichen</translation>
+        <translation>Rapprocher le compte %1</translation>
     </message>
     <message>
         <source>&amp;Balance:</source>
-        <translation>&amp;Saldo:</translation>
+        <translation>&amp;Solde&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Currency:</source>
-        <translation>&amp;Währung:</translation>
+        <translation>&amp;Devise&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Date:</source>
-        <translation>&amp;Datum:</translation>
+        <translation>D&amp;ate&#xa0;:</translation>
     </message>
     <message>
         <source>The program has a fault: %1</source>
-        <translation>Das Programm hat einen Fehler: %1</translation>
+        <translation>Le programme a une erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nothing can be changed, or these rows, which cannot be read, would be lost:</source>
-        <translation>Nichts kann geändert werden, da sonst diese nicht lesbaren Zeilen verloren gingen:</translation>
+        <translation>Aucune modification n’est possible, car ces lignes illisibles seraient perdues&#xa0;:</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,10 @@
         <source>closed</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is not a date such as %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Session</name>
@@ -55,6 +59,14 @@
     </message>
     <message>
         <source>The file cannot be read or written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is there twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not 0 or 1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
