@@ -14,11 +14,11 @@ namespace orv::banking {
 /// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
 /// Use it to describe a bank for a `BankMap`, or to change several things of one bank at once: copy
-/// it from the registry, change the copy, and pass that to `BankMap::update`, while both are open.
+/// it from the registry, change the copy, and pass that to `BankMap::update`. Both must be open.
 ///
 /// No bank holds the invalid account number or an account of the kind `Unknown`. A closed bank
 /// still adds and removes accounts. Only a default-constructed bank has no name; its calls work,
-/// with an empty name in messages. Calls except `remove` take as long as those of a `std::map`.
+/// with an empty name in messages.
 ///
 /// \snippet snippets.cpp Bank
 class ORV_BANKING_EXPORT Bank
@@ -37,8 +37,8 @@ public:
 
   /// Returns the account numbers with their kinds, the smallest number first.
   ///
-  /// An iterator is valid until its number is removed, or the bank is assigned to, moved, swapped,
-  /// updated, renamed or destroyed.
+  /// An iterator is valid until its number is removed, the bank is assigned to, moved, swapped or
+  /// destroyed, or a registry updates or renames the bank.
   [[nodiscard]] std::map<accounting::AccountNumber, BankAccountTypes> const&
   accounts() const noexcept
   {
@@ -68,7 +68,7 @@ public:
   /// \throws BankError if `type` is `Unknown`
   void add(accounting::AccountNumber const& number, BankAccountTypes type);
 
-  /// Removes an account. Logged, with all accounts that the bank holds before.
+  /// Removes an account. Logged; the message shows all accounts before the removal.
   ///
   /// \throws std::logic_error if a kind that the bank holds is not one of the enumerators
   /// \throws BankError if the bank does not hold `number`
@@ -98,7 +98,7 @@ inline bool operator!=(Bank const& lhs, Bank const& rhs)
 /// Writes "Bank: (Financial Institution Name: (Elm)), Account Numbers: (100=>Loan, 200=>Goal), Is
 /// Closed: false)".
 ///
-/// The last parenthesis has no partner. The stream is left in `std::boolalpha` mode.
+/// The last parenthesis has no opening one. The stream is left in `std::boolalpha` mode.
 /// \relatesalso Bank
 ORV_BANKING_EXPORT std::ostream& operator<<(std::ostream& stream, Bank const& bank);
 

@@ -25,7 +25,7 @@ namespace orv::banking {
 /// \snippet snippets.cpp BankAccountTypes
 /// @{
 
-/// The kind of an account that a bank holds.
+/// The kind of an account that a bank holds. The integers do not change.
 enum class BankAccountTypes : std::int32_t
 {
   Unknown = 0,    ///< The kind is not known. It has a text, "Unknown", but no bank accepts it.
@@ -65,11 +65,11 @@ fromNonLocalisedText(QString const& text);
 
 /// Returns the kind that has this text, untranslated or in the user's language.
 ///
-/// Use it for what a user writes. The text must be equal letter for letter. An untranslated text
-/// wins over a translation, and of kinds with the same translation the first of `Chequeing`,
+/// Use it for what a user writes. The text must be equal letter for letter. Untranslated texts are
+/// tried first. If several kinds have the same translation, the result is the first of `Chequeing`,
 /// `Goal`, `CreditCard`, `Loan`, `Savings` and `Unknown`.
 ///
-/// \throws std::logic_error if no kind has the text; tell the user in words of your own
+/// \throws std::logic_error if no kind has the text; tell the user with your own text
 [[nodiscard]] ORV_BANKING_EXPORT BankAccountTypes toBankAccountTypes(QString const& text);
 
 /// Writes the text of the kind in the user's language.
@@ -95,7 +95,7 @@ struct AccountNumberBankType
 /// Returns the number and the kind as a user reads them, such as "100 (Credit Card)".
 ///
 /// For `LocaleAware::No` the text of the kind is untranslated, for every other value it is in the
-/// user's language. Do not store the text: its format is translated in both cases.
+/// user's language. Do not store the text: the format around the kind is translated in both cases.
 ///
 /// \throws std::logic_error if the kind is not one of the enumerators
 /// \relatesalso AccountNumberBankType

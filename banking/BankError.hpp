@@ -24,7 +24,7 @@ public:
   /// Creates the error that reports `message` about `bank`.
   ///
   /// \param bank the bank; with an empty name, the text says "the bank ''"
-  /// \param message the broken rule, translated, with its placeholders filled
+  /// \param message the broken rule, translated, with all placeholders replaced
   /// \param cause the exception that led to this error, if any
   BankError(BankName const& bank, QString const& message,
             std::exception const& cause = std::exception());

@@ -20,9 +20,9 @@ namespace orv::banking {
 /// is a value: copy it, change the copy, and move that back if everything succeeded.
 ///
 /// **Rules.** Each bank is registered under its own name, no bank holds the invalid account number,
-/// and no two banks hold the same account number. One default-constructed bank can be registered,
-/// under the name `BankName()`. The text of each error names the bank that is passed, and of
-/// `rename` the bank `from`. `open`, `close`, and `add` and `remove` of an account number first
+/// and no two banks hold the same account number. At most one default-constructed bank can be
+/// registered, under the name `BankName()`. The text of each error names the bank that is passed;
+/// for `rename`, that is `from`. `open`, `close`, and `add` and `remove` of an account number first
 /// check the rules of the registry, then call the bank, which logs the call and checks its own
 /// rules.
 ///
@@ -34,7 +34,8 @@ namespace orv::banking {
 ///
 /// **Complexity.** Numbers have no index: to find who holds one, the registry asks one bank after
 /// the other. B is the number of banks, N that of all accounts, A that of the accounts of the
-/// largest bank, and M that of the bank passed. A call without a complexity takes at most O(log B).
+/// largest bank, and M that of the bank passed. Copying, comparing and writing take O(B + N), and a
+/// member function without a complexity at most O(log B).
 ///
 /// Threads, memory, languages, logs and the other conventions of all types are described in the
 /// page `conventions.md`, which is installed in `share/doc/orv-banking`.
@@ -59,13 +60,13 @@ public:
 
   /// Creates a registry of these banks, closed ones included.
   ///
-  /// Prefer it to repeated `add`, which visits every bank each time. The banks are checked in the
-  /// order of their keys. Each bank goes through all checks before the next.
+  /// Prefer it to repeated `add`, which visits every bank each time. Each bank goes through all
+  /// checks before the next, in the order of the keys.
   ///
   /// \throws BankError if the key of a bank is not its name; the error names the key
   /// \throws BankError if a bank holds the invalid number, which `Bank` itself does not allow
-  /// \throws BankError if a bank shares numbers with later banks; the error names it, the smallest
-  ///          of these numbers, and the next bank that holds that number
+  /// \throws BankError if a bank shares numbers with later banks; the error names the bank, the
+  ///          smallest shared number, and the next bank that holds this number
   ///
   /// Complexity: O(B + N), with temporary memory for the N numbers.
   explicit BankMap(std::map<BankName, Bank> banks);
@@ -113,7 +114,7 @@ public:
   void open(BankName const& name);
 
   /// Adds an account to the bank of this name, or changes its kind if the bank holds the number
-  /// already. Logged unless one of the first two errors is thrown.
+  /// already. Logged if the bank exists and no other bank holds `number`.
   ///
   /// \throws BankError if there is no such bank
   /// \throws BankError if another bank holds `number`; the error names that one too

@@ -18,7 +18,7 @@ namespace orv::banking {
 /// To reconcile an account is to record the balance that the bank reported for a date. A
 /// reconciliation never moves back in time.
 ///
-/// No registry knows this account, and it keeps its bank and kind if the registry changes. A
+/// The account is independent of every registry: later changes of a registry do not change it. A
 /// program with a registry keeps a `ReconciledBalance` for each account number, and makes a
 /// `ReconciledBankAccount` only to call `reconcile`. A moved-from account still has its date,
 /// number and kind.
@@ -31,8 +31,8 @@ public:
   /// `accounting::AccountNumber()` and its kind `Unknown`.
   ReconciledBankAccount() = default;
 
-  /// Creates an account that was last reconciled as given, or never without a date. Nothing is
-  /// checked.
+  /// Creates an account that was last reconciled on this date or, if there is no date, never.
+  /// Nothing is checked.
   ReconciledBankAccount(BankAccount bankAccount, mintar::Money balance,
                         std::optional<QDate> reconciledOn);
 
@@ -60,12 +60,10 @@ public:
   /// Records the balance that the bank reported for a date. Not logged.
   ///
   /// The first reconciliation accepts any date, even an invalid one. Each further one accepts the
-  /// same date or a later one. An invalid date is earlier than every valid date.
+  /// same date or a later one. An invalid date is earlier than every valid date. The currency may
+  /// change.
   ///
   /// \throws BankError if `date` is earlier than the last date
-  ///
-  /// The balance may be in another currency than the last one. If an installed money library
-  /// refuses to assign it, its error passes through, and the account is unchanged.
   void reconcile(QDate const& date, mintar::Money const& balance);
 
 private:

@@ -25,8 +25,8 @@ QT_BEGIN_NAMESPACE
 
 /// Writes the date in ISO 8601, for example 2026-01-31, or nothing if the date is invalid.
 ///
-/// Years outside 0 to 9999 have a sign: +12026-01-31, -0043-03-15. ISO 8601 has a year 0, which is
-/// the year -1 of `QDate`; so it counts one less than `QDate` before that.
+/// Years outside 0 to 9999 have a sign, as in +12026-01-31. ISO 8601 has a year 0, which is the
+/// year -1 of `QDate`, so earlier years differ by one: the year -44 of `QDate` is written -0043.
 ORV_FOUNDATION_EXPORT std::ostream& operator<<(std::ostream& stream, QDate const& date);
 
 QT_END_NAMESPACE

@@ -20,7 +20,7 @@ public:
   Error(QString const& message, std::exception const& cause);
 
 private:
-  QString message_; // Part of the class layout that other libraries of the family derive from.
+  QString message_;
 };
 
 } // namespace orv::foundation

@@ -16,8 +16,8 @@ namespace mintar {
 
 /// An exact amount of money: a whole number of minor units of a currency, such as cents.
 ///
-/// An amount whose currency has an empty code is one without a currency. Values are copied, moved
-/// and assigned whatever their currencies are, and throw nothing meanwhile.
+/// An amount whose currency has an empty code is one without a currency. Copying, moving and
+/// assigning never throw, whatever the currencies are.
 class MINTAR_EXPORT Money
 {
 public:
