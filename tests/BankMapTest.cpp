@@ -85,6 +85,9 @@ TEST(BankMap, AcceptsArgumentsThatReferIntoIt)
   BankMap map({{elm, bank(elm, 9)}});
   auto const& held = map.bank(elm);
   auto const account = held.accounts().begin(); // which stays where it is
+  map.add(bank(oak));
+  map.remove(oak);
+  EXPECT_EQ(&map.bank(elm), &held);
   map.close(held.name());
   map.add(held.name(), hundred, Loan);
   map.remove(held.name(), hundred);

@@ -41,7 +41,7 @@ constexpr bool isReference(Result (T::*)() const noexcept)
 }
 static_assert(isReference(&BankName::institution));
 static_assert(isReference(&Bank::accounts) && isReference(&Bank::name));
-static_assert(isReference(&Money::currency));
+static_assert(isReference(&Money::currency) && isReference(&Currency::isoCode));
 static_assert(isReference(&ReconciledBankAccount::bankAccount) &&
               isReference(&ReconciledBankAccount::balance) &&
               isReference(&ReconciledBankAccount::reconciledOn));

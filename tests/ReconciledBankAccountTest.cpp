@@ -47,7 +47,9 @@ TEST(ReconciledBankAccount, IsCopiedAndMovedWithAllItsFields)
   self = std::move(account);
   ReconciledBankAccount copy(self);
   ReconciledBankAccount moved(std::move(copy));
-  self = ReconciledBankAccount({}, Currency("EUR")); // which has no date
+  ReconciledBankAccount const undated({}, Currency("EUR"));
+  self = undated;
+  EXPECT_EQ(streamed(self), streamed(undated));
   self = std::move(moved);
   EXPECT_EQ(streamed(self), text);
   EXPECT_EQ(copy.reconciledOn(), march);

@@ -33,8 +33,12 @@ TEST(Date, IsWrittenInIso8601AndShownWithAllDigitsOfTheYear)
                                              {{}, ""}};
   for (auto const& [date, text] : dates) {
     EXPECT_EQ(presentationText(date), text);
-    ScopedLocale const german(QLocale("de_DE"));
+    ScopedLocale const egyptian(QLocale("ar_EG")); // which has digits of its own
     EXPECT_EQ(streamed(date), text);
+  }
+  {
+    ScopedLocale const german(QLocale("de_DE"));
+    EXPECT_EQ(presentationText(march), "31.03.2026");
   }
   for (auto const& locale :
        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyTerritory)) {
@@ -51,6 +55,7 @@ TEST(Money, IsShownExactlyInItsCurrency)
   std::tuple<QLocale, char const*, qint64, QString, QString> const amounts[] = {
       {QLocale("en_CA"), "CAD", 123456, "$1,234.56", "123456"},
       {QLocale("en_CA"), "USD", 5, "USD\u00a00.05", "005"},
+      {QLocale("en_CA"), "USD", -5, "(USD\u00a00.05)", "005"},
       {QLocale("en_US"), "JPY", 1234, "JPY\u00a01,234", "1234"},
       {QLocale("de_DE"), "KWD", -1234567, "-1.234,567\u00a0KWD", "1234567"},
       {QLocale("ar_EG"), "CLF", 12034, "\u0661\u066b\u0662\u0660\u0663\u0664", "12034"},
@@ -65,7 +70,7 @@ TEST(Money, IsShownExactlyInItsCurrency)
     EXPECT_TRUE(text.contains(part)) << text.toStdString();
     EXPECT_EQ(digits(text), expectedDigits);
   }
-  EXPECT_EQ(streamed(Money()), "");
+  EXPECT_EQ(streamed(Money(Currency(QString()), 5)), "");
 }
 
 TEST(Money, EqualsOneOfTheSameAmountAndCurrency)
@@ -73,6 +78,7 @@ TEST(Money, EqualsOneOfTheSameAmountAndCurrency)
   Money const none(Currency("CAD"));
   EXPECT_EQ(none, Money(Currency("CAD"), 0));
   expectUnequal(none, Money(Currency("EUR")));
+  expectUnequal(none, Money(Currency("cad")));
   expectUnequal(none, Money());
   expectUnequal(none, Money(Currency("CAD"), 1));
 }

@@ -11,6 +11,7 @@
 #include <QLocale>
 
 #include <gmock/gmock.h>
+#include <locale>
 #include <sstream>
 
 using namespace orv::banking;
@@ -55,10 +56,17 @@ private:
   QLocale before_;
 };
 
+/// Groups digits as some locales of the standard library do.
+struct Grouping : std::numpunct<char>
+{
+  std::string do_grouping() const override { return "\3"; }
+};
+
 /// What the value writes to a standard stream in an unusual format, which stays.
 QString streamed(auto const& value)
 {
   std::ostringstream stream;
+  stream.imbue(std::locale(stream.getloc(), new Grouping)); // which the locale deletes
   stream << std::hex << std::showbase << std::boolalpha;
   auto const flags = stream.flags();
   stream << value;
