@@ -14,7 +14,8 @@ namespace orv::banking {
 /// A bank: its name, its accounts with their kinds, and whether it is open or closed.
 ///
 /// Use it to describe a bank for a `BankMap`, or to change several things of one bank at once: copy
-/// it from the registry, change the copy, and pass that to `BankMap::update`. Both must be open.
+/// it from the registry, change the copy, and pass that to `BankMap::update`. The copy and the
+/// registered bank must both be open.
 ///
 /// No bank holds the invalid account number or an account of the kind `Unknown`. A closed bank
 /// still adds and removes accounts. Only a default-constructed bank has no name; its calls work,

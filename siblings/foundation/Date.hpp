@@ -13,7 +13,7 @@
 namespace orv::foundation {
 
 /// Returns the date as a user reads it: in the short form of the user's locale, `QLocale()`, with
-/// all digits of the year.
+/// four digits of the year.
 ///
 /// In the C locale the date is written as the stream operator does. The text of an invalid date is
 /// empty.

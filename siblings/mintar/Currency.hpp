@@ -18,7 +18,7 @@ public:
 
   /// Returns the code, exactly as it was given.
   ///
-  /// The reference is valid as long as this currency exists. Later assignments show through it.
+  /// The reference is valid as long as this currency exists. It shows later assignments.
   [[nodiscard]] QString const& isoCode() const noexcept { return isoCode_; }
 
   /// Returns how many decimals an amount in this currency has: 0 for JPY, 3 for KWD, 2 for most.

@@ -35,7 +35,7 @@ public:
 
   /// Returns the currency, which has an empty code if the amount has none.
   ///
-  /// The reference is valid as long as this amount exists. Later assignments show through it.
+  /// The reference is valid as long as this amount exists. It shows later assignments.
   [[nodiscard]] Currency const& currency() const noexcept { return currency_; }
 
   /// Returns the amount in minor units of its currency.
