@@ -78,6 +78,8 @@ TEST_F(DesktopTest, ChangesAreInTheFile)
   session_.redo();
   EXPECT_EQ(inFile(), text(session_));
   EXPECT_EQ(inFile(), QString(before).replace(elm.institution(), oak.institution()));
+  session_.change([](Books& books) { books.banks.open(pine); });
+  EXPECT_FALSE(session_.canRedo());
 }
 
 TEST_F(DesktopTest, AWriteThatFailsChangesNothing)
@@ -181,7 +183,9 @@ TEST_F(DesktopTest, TheWindowKeepsToTheRules)
 
   view->setCurrentIndex(view->model()->index(0, 0));
   EXPECT_EQ(selected(), elm.institution());
+  messages_.clear();
   give("Rename…", {"\r"}); // the same name is no change
+  EXPECT_EQ(messages_.join(u'\n'), "");
   give("Rename…", {"Zelkova\r"});
   EXPECT_EQ(selected(), "Zelkova");
   EXPECT_EQ(view->currentIndex().row(), 2);
