@@ -12,15 +12,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount in %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>closed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

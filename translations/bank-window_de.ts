@@ -12,16 +12,16 @@
         <translation>„%1“ ist keine Währung wie EUR.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount in %2.</source>
-        <translation>„%1“ ist kein Betrag in %2.</translation>
-    </message>
-    <message>
         <source>closed</source>
         <translation>geschlossen</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
         <translation>„%1“ ist kein Datum wie %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as %2.</source>
+        <translation>„%1“ ist kein Betrag wie %2.</translation>
     </message>
 </context>
 <context>

@@ -12,16 +12,16 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount in %2.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en %2.</translation>
-    </message>
-    <message>
         <source>closed</source>
         <translation>fermée</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une date comme %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as %2.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme %2.</translation>
     </message>
 </context>
 <context>

@@ -85,27 +85,35 @@ inline mintar::Currency toCurrency(QString const& text)
   return mintar::Currency(text);
 }
 
-/// Reads an amount exactly, as the user's locale writes it, with its groups of digits or without. It has no
-/// more decimals than the currency. \throws UserError if the text is none
+/// Reads an amount exactly, as the user's locale writes it: with or without groups of digits and the currency.
+/// It has no more decimals than the currency. \throws UserError if the text is none
 inline mintar::Money toMoney(QString const& text, mintar::Currency const& currency)
 {
-  auto const group = QRegularExpression::escape(QLocale().groupSeparator());
-  auto const point = QRegularExpression::escape(QLocale().decimalPoint());
-  // Keyboards have no keys for some of the signs, spaces and apostrophes that locales write.
-  auto const plain = visible(text).replace(QChar(0x2212), u'-');
+  QLocale const locale;
+  auto plain = visible(text).remove(currency.isoCode());
+  if (locale.currencySymbol(QLocale::CurrencyIsoCode) == currency.isoCode()) {
+    plain.remove(locale.currencySymbol());
+  }
+  // Keyboards have no keys for some of the signs, spaces and apostrophes that locales write. Negative amounts
+  // may stand in parentheses.
+  auto const group = QRegularExpression::escape(locale.groupSeparator());
+  auto const point = QRegularExpression::escape(locale.decimalPoint());
   QRegularExpression const form(
-      u"^(-?)(\\d+|\\d{1,3}(?:[%1\\s']\\d{2,3})*[%1\\s']\\d{3})(?:%2(\\d+))?$"_s.arg(group, point),
+      u"^\\s*([-\u2212(]?)\\s*(\\d+|\\d{1,3}(?:[%1\\s']\\d{2,3})*[%1\\s']\\d{3})(?:%2(\\d+))?\\s*(\\)?)\\s*$"_s
+          .arg(group, point),
       QRegularExpression::UseUnicodePropertiesOption);
   auto const match = form.match(plain);
   auto const decimals = match.captured(3);
-  auto digits = match.captured(1);
+  auto digits = match.captured(1).isEmpty() ? QString() : u"-"_s;
   for (auto const c : match.captured(2) + decimals.leftJustified(currency.decimals(), u'0')) {
     digits += c.isDigit() ? QString::number(c.digitValue()) : QString();
   }
   bool fits = false;
   mintar::Money const amount(currency, digits.toLongLong(&fits));
-  require(match.hasMatch() && fits && decimals.size() <= currency.decimals(),
-          Books::tr("'%1' is not an amount in %2.").arg(text, currency.isoCode()));
+  auto const isEnclosed = (match.captured(1) == u"(") == (match.captured(4) == u")");
+  require(match.hasMatch() && isEnclosed && fits && decimals.size() <= currency.decimals(),
+          Books::tr("'%1' is not an amount such as %2.")
+              .arg(text, presentationText(mintar::Money(currency, 125050))));
   return amount;
 }
 

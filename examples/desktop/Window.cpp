@@ -82,6 +82,7 @@ public:
     splitter->addWidget(view_);
     splitter->addWidget(problems_);
     setCentralWidget(splitter);
+    problems_->setReadOnly(true);
     model_.setHorizontalHeaderLabels(
         {tr("Bank, account"), tr("Kind"), tr("Balance"), tr("Reconciled on")});
     view_->setModel(&model_);
@@ -197,6 +198,8 @@ private:
         }
       }
       session_.change([&](Books& books) { books.banks.add(bank.name(), number, kind); });
+      refresh();
+      view_->expand(model_.findItems(presentationText(bank.name())).first()->index());
     });
   }
 
