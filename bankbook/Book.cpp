@@ -124,33 +124,41 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
   return numbers;
 }
 
-// Throws where the account is bound to another identifier, or another account of these kinds may be bound to
-// this one.
-void checkBinding(Book const& book, AccountNumber const& ours, Identifier const& identifier,
-                  QList<BankAccountTypes> const& kinds)
+// The longer one of the identifier that the account is bound to and this one. Throws where they are of two
+// accounts.
+Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
 {
-  auto const text = Book::tr("The account number %1 is bound to %2. For another account, add its "
-                             "ACCTTYPE and BANKID; to bind it anew, remove it and add it again.");
-  auto const bound = book.identifiers.value(ours);
-  refuseIf(!mayBeOne(bound, identifier), text, presentationText(ours), bound);
+  auto const bound = book.identifiers.value(number);
+  refuseIf(
+      !mayBeOne(bound, identifier),
+      Book::tr(
+          "The account number %1 is bound to %2; to bind it anew, remove it and add it again."),
+      presentationText(number), bound);
+  return bound.size() > identifier.size() ? bound : identifier;
+}
+
+// Throws where an account other than ours, of one of these kinds, may be bound to the identifier.
+void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& identifier,
+                 QList<BankAccountTypes> const& kinds)
+{
   for (auto const& number : boundTo(book, identifier, kinds)) {
-    refuseIf(!(number == ours), text, presentationText(number), book.identifiers.value(number));
+    refuseIf(
+        !(number == ours),
+        Book::tr("The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID."),
+        presentationText(number), book.identifiers.value(number));
   }
 }
 
-// The whole identifier of the account in the file that may be ours and has these identifiers.
-Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& bound,
-                   Identifier const& typed)
+// The whole identifier of the account in the file that has this identifier and may be ours.
+Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& identifier)
 {
   auto const account = ours.accountNumberBankType;
   auto found = file.keys();
   found.removeIf([&](Identifier const& whole) {
-    return !mayBeOne(bound, whole) || !mayBeOne(typed, whole) ||
-           !file[whole].kinds.contains(account.bankAccountType);
+    return !mayBeOne(identifier, whole) || !file[whole].kinds.contains(account.bankAccountType);
   });
-  auto const sought = presentationText(account, Yes) + u' ' + (bound.isEmpty() ? typed : bound);
   refuseIf(found.isEmpty(), Book::tr("The file has no statement for %1; it has: %2."),
-           sought.trimmed(), file.keys());
+           (presentationText(account, Yes) + u' ' + identifier).trimmed(), file.keys());
   refuseIf(found.size() > 1,
            Book::tr("The file has several such accounts; add one at the end: %1."), found);
   return found[0];
@@ -207,11 +215,9 @@ void forget(Book& book, Words const& words, Answer& /*answer*/)
 void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toHeldNumber(book, words[1]);
-  auto const identifier = toIdentifier(words, 2);
-  checkBinding(book, number, identifier, {kindOf(book, number)});
-  if (identifier.size() > book.identifiers.value(number).size()) {
-    book.identifiers[number] = identifier;
-  }
+  auto const identifier = longer(book, number, toIdentifier(words, 2));
+  checkIsFree(book, number, identifier, {kindOf(book, number)});
+  book.identifiers[number] = identifier;
 }
 
 void list(Book& book, Words const& /*words*/, Answer& answer)
@@ -295,9 +301,9 @@ void statement(Book& book, Words const& words, Answer& answer)
   auto balances = book.balances;
   for (auto const& number : answer.reconciled) {
     auto const account = find(book, number);
-    auto const whole = wholeOf(account, statements, identifiers.value(number), typed);
+    auto const whole = wholeOf(account, statements, longer(book, number, typed));
     auto const& [kinds, balance, fault] = statements[whole];
-    checkBinding(book, number, whole, kinds);
+    checkIsFree(book, number, whole, kinds);
     refuseIf(!fault.isEmpty(), fault);
     identifiers[number] = whole;
     balances[number] = reconciled(book, account, balance);

@@ -196,10 +196,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -212,6 +208,14 @@ quote, \\ a backslash. # begins a comment.
   CURRENCY    such as CAD
   IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove it and add it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -196,10 +196,6 @@
         <translation>Das Haushaltsbuch; bei - die Standardeingabe.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation>Die Kontonummer %1 ist an %2 gebunden. Für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation>Für die Kontonummer %1 ist nichts erfasst.</translation>
     </message>
@@ -222,6 +218,14 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
   WÄHRUNG  etwa EUR
   KENNUNG  ACCTID [ACCTTYPE [BANKID]], wie in der Datei
 </translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove it and add it again.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden; für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an.</translation>
     </message>
 </context>
 <context>

@@ -196,10 +196,6 @@
         <translation>Le livre de comptes; s’il est remplacé par -, l’entrée standard.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation>Le numéro de compte %1 est lié à %2. Pour un autre compte, ajoutez son ACCTTYPE et son BANKID; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation>Rien n’est noté pour le numéro de compte %1.</translation>
     </message>
@@ -222,6 +218,14 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
   DEVISE       telle que CAD
   IDENTIFIANT  ACCTID [ACCTTYPE [BANKID]], comme dans le fichier
 </translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove it and add it again.</source>
+        <translation>Le numéro de compte %1 est lié à %2; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID.</source>
+        <translation>Le numéro de compte %1 est lié à %2; pour un autre compte, ajoutez ACCTTYPE et BANKID.</translation>
     </message>
 </context>
 <context>
