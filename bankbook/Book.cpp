@@ -22,10 +22,11 @@ using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
 QString usageOf(QString const& command);
 
-BookError writtenOtherwise(QString const& command)
+void requireForm(bool isRight, QString const& command)
 {
-  return {Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
-          usageOf(command)};
+  refuseIf(!isRight,
+           Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
+           usageOf(command));
 }
 
 // The bank that NAME [NUMBER=KIND ...] describes, in the words of a command.
@@ -34,9 +35,7 @@ Bank toBank(Words const& words)
   Accounts accounts;
   for (auto const& word : words.mid(2)) {
     auto const kind = word.section(u'=', 1);
-    if (kind.isEmpty()) {
-      throw writtenOtherwise(words[0]);
-    }
+    requireForm(!kind.isEmpty(), words[0]);
     auto const number = word.section(u'=', 0, 0);
     refuseIf(!accounts.emplace(toAccountNumber(number), toKind(kind)).second,
              Book::tr("The account number %1 is given twice."), number);
@@ -50,9 +49,7 @@ Identifier toIdentifier(Words words, qsizetype first)
   for (auto& word : words) {
     word = word.simplified();
   }
-  if (words.value(first, words[0]).isEmpty()) {
-    throw writtenOtherwise(words[0]);
-  }
+  requireForm(!words.value(first, words[0]).isEmpty(), words[0]);
   return toLine(words.mid(first));
 }
 
@@ -129,11 +126,9 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
 Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
 {
   auto const bound = book.identifiers.value(number);
-  refuseIf(
-      !mayBeOne(bound, identifier),
-      Book::tr(
-          "The account number %1 is bound to %2; to bind it anew, remove it and add it again."),
-      presentationText(number), bound);
+  refuseIf(!mayBeOne(bound, identifier),
+           Book::tr("The account number %1 is bound to %2; to bind it anew, remove and add it."),
+           presentationText(number), bound);
   return bound.size() > identifier.size() ? bound : identifier;
 }
 
@@ -144,7 +139,7 @@ void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& 
   for (auto const& number : boundTo(book, identifier, kinds)) {
     refuseIf(
         !(number == ours),
-        Book::tr("The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID."),
+        Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
         presentationText(number), book.identifiers.value(number));
   }
 }
@@ -173,8 +168,7 @@ ReconciledBalance reconciled(Book const& book, BankAccount const& account,
       book.balances.value(account.accountNumberBankType.accountNumber, next);
   ReconciledBankAccount updated(account, last.balance, last.occurredOn);
   refuseIf(!(last.balance.currency() == next.balance.currency()),
-           Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
-                    "forget %1"),
+           Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
            number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
     updated.reconcile(next.occurredOn, next.balance);
@@ -285,9 +279,8 @@ void statement(Book& book, Words const& words, Answer& answer)
   auto const fileName = words[isOfAll ? 1 : 2];
   QFile file(pathOf(book.folder, fileName));
   QFileInfo const info(file);
-  if (info.exists() && !info.isFile() && !info.isDir()) { // a device, which may have no end
-    throw BookError(Book::tr("%1 is not a file."), fileName);
-  }
+  refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
+           Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
   auto const all = statements.keys();
   for (auto const& whole : all) {
@@ -390,9 +383,7 @@ Answer execute(Book& book, QStringList const& words)
     refuseIf(found == commands.end(),
              Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
     auto const& [fewest, most, function, usage] = found->second;
-    if (words.size() <= fewest || words.size() - 1 > most) {
-      throw writtenOtherwise(words[0]);
-    }
+    requireForm(words.size() > fewest && words.size() - 1 <= most, words[0]);
     function(book, words, answer);
   }
   return answer;

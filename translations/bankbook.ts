@@ -120,10 +120,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -211,11 +207,15 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2; to bind it anew, remove it and add it again.</source>
+        <source>The account number %1 is bound to %2; to bind it anew, remove and add it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2; for another one, add ACCTTYPE and BANKID.</source>
+        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
