@@ -22,10 +22,11 @@ using Accounts = std::map<AccountNumber, BankAccountTypes>;
 
 QString usageOf(QString const& command);
 
-BookError writtenOtherwise(QString const& command)
+void requireForm(bool isRight, QString const& command)
 {
-  return {Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
-          usageOf(command)};
+  refuseIf(!isRight,
+           Book::tr("The command is written: %1. Straight double quotes hold words with blanks."),
+           usageOf(command));
 }
 
 // The bank that NAME [NUMBER=KIND ...] describes, in the words of a command.
@@ -34,9 +35,7 @@ Bank toBank(Words const& words)
   Accounts accounts;
   for (auto const& word : words.mid(2)) {
     auto const kind = word.section(u'=', 1);
-    if (kind.isEmpty()) {
-      throw writtenOtherwise(words[0]);
-    }
+    requireForm(!kind.isEmpty(), words[0]);
     auto const number = word.section(u'=', 0, 0);
     refuseIf(!accounts.emplace(toAccountNumber(number), toKind(kind)).second,
              Book::tr("The account number %1 is given twice."), number);
@@ -50,9 +49,7 @@ Identifier toIdentifier(Words words, qsizetype first)
   for (auto& word : words) {
     word = word.simplified();
   }
-  if (words.value(first, words[0]).isEmpty()) {
-    throw writtenOtherwise(words[0]);
-  }
+  requireForm(!words.value(first, words[0]).isEmpty(), words[0]);
   return toLine(words.mid(first));
 }
 
@@ -124,33 +121,39 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
   return numbers;
 }
 
-// Throws where the account is bound to another identifier, or another account of these kinds may be bound to
-// this one.
-void checkBinding(Book const& book, AccountNumber const& ours, Identifier const& identifier,
-                  QList<BankAccountTypes> const& kinds)
+// The longer one of the identifier that the account is bound to and this one. Throws where they are of two
+// accounts.
+Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
 {
-  auto const text = Book::tr("The account number %1 is bound to %2. For another account, add its "
-                             "ACCTTYPE and BANKID; to bind it anew, remove it and add it again.");
-  auto const bound = book.identifiers.value(ours);
-  refuseIf(!mayBeOne(bound, identifier), text, presentationText(ours), bound);
+  auto const bound = book.identifiers.value(number);
+  refuseIf(!mayBeOne(bound, identifier),
+           Book::tr("The account number %1 is bound to %2; to bind it anew, remove and add it."),
+           presentationText(number), bound);
+  return bound.size() > identifier.size() ? bound : identifier;
+}
+
+// Throws where an account other than ours, of one of these kinds, may be bound to the identifier.
+void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& identifier,
+                 QList<BankAccountTypes> const& kinds)
+{
   for (auto const& number : boundTo(book, identifier, kinds)) {
-    refuseIf(!(number == ours), text, presentationText(number), book.identifiers.value(number));
+    refuseIf(
+        !(number == ours),
+        Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
+        presentationText(number), book.identifiers.value(number));
   }
 }
 
-// The whole identifier of the account in the file that may be ours and has these identifiers.
-Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& bound,
-                   Identifier const& typed)
+// The whole identifier of the account in the file that has this identifier and may be ours.
+Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& identifier)
 {
   auto const account = ours.accountNumberBankType;
   auto found = file.keys();
   found.removeIf([&](Identifier const& whole) {
-    return !mayBeOne(bound, whole) || !mayBeOne(typed, whole) ||
-           !file[whole].kinds.contains(account.bankAccountType);
+    return !mayBeOne(identifier, whole) || !file[whole].kinds.contains(account.bankAccountType);
   });
-  auto const sought = presentationText(account, Yes) + u' ' + (bound.isEmpty() ? typed : bound);
   refuseIf(found.isEmpty(), Book::tr("The file has no statement for %1; it has: %2."),
-           sought.trimmed(), file.keys());
+           (presentationText(account, Yes) + u' ' + identifier).trimmed(), file.keys());
   refuseIf(found.size() > 1,
            Book::tr("The file has several such accounts; add one at the end: %1."), found);
   return found[0];
@@ -165,8 +168,7 @@ ReconciledBalance reconciled(Book const& book, BankAccount const& account,
       book.balances.value(account.accountNumberBankType.accountNumber, next);
   ReconciledBankAccount updated(account, last.balance, last.occurredOn);
   refuseIf(!(last.balance.currency() == next.balance.currency()),
-           Book::tr("The account number %1 is kept in %2, not in %3; to take that back: "
-                    "forget %1"),
+           Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
            number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
     updated.reconcile(next.occurredOn, next.balance);
@@ -207,11 +209,9 @@ void forget(Book& book, Words const& words, Answer& /*answer*/)
 void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toHeldNumber(book, words[1]);
-  auto const identifier = toIdentifier(words, 2);
-  checkBinding(book, number, identifier, {kindOf(book, number)});
-  if (identifier.size() > book.identifiers.value(number).size()) {
-    book.identifiers[number] = identifier;
-  }
+  auto const identifier = longer(book, number, toIdentifier(words, 2));
+  checkIsFree(book, number, identifier, {kindOf(book, number)});
+  book.identifiers[number] = identifier;
 }
 
 void list(Book& book, Words const& /*words*/, Answer& answer)
@@ -279,9 +279,8 @@ void statement(Book& book, Words const& words, Answer& answer)
   auto const fileName = words[isOfAll ? 1 : 2];
   QFile file(pathOf(book.folder, fileName));
   QFileInfo const info(file);
-  if (info.exists() && !info.isFile() && !info.isDir()) { // a device, which may have no end
-    throw BookError(Book::tr("%1 is not a file."), fileName);
-  }
+  refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
+           Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
   auto const all = statements.keys();
   for (auto const& whole : all) {
@@ -295,9 +294,9 @@ void statement(Book& book, Words const& words, Answer& answer)
   auto balances = book.balances;
   for (auto const& number : answer.reconciled) {
     auto const account = find(book, number);
-    auto const whole = wholeOf(account, statements, identifiers.value(number), typed);
+    auto const whole = wholeOf(account, statements, longer(book, number, typed));
     auto const& [kinds, balance, fault] = statements[whole];
-    checkBinding(book, number, whole, kinds);
+    checkIsFree(book, number, whole, kinds);
     refuseIf(!fault.isEmpty(), fault);
     identifiers[number] = whole;
     balances[number] = reconciled(book, account, balance);
@@ -384,9 +383,7 @@ Answer execute(Book& book, QStringList const& words)
     refuseIf(found == commands.end(),
              Book::tr("There is no command '%1'; bankbook --help shows all."), words[0]);
     auto const& [fewest, most, function, usage] = found->second;
-    if (words.size() <= fewest || words.size() - 1 > most) {
-      throw writtenOtherwise(words[0]);
-    }
+    requireForm(words.size() > fewest && words.size() - 1 <= most, words[0]);
     function(book, words, answer);
   }
   return answer;

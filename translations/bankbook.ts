@@ -120,10 +120,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -196,10 +192,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -212,6 +204,18 @@ quote, \\ a backslash. # begins a comment.
   CURRENCY    such as CAD
   IDENTIFIER  ACCTID [ACCTTYPE [BANKID]], as the file has them
 </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove and add it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -120,10 +120,6 @@
         <translation>Die Datei enthält keinen Auszug für %1, sondern: %2.</translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
-        <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3; um das zurückzunehmen: forget %1</translation>
-    </message>
-    <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation>%1 Um das letzte Datum des Kontos mit der Nummer %2 zurückzunehmen: forget %2</translation>
     </message>
@@ -196,10 +192,6 @@
         <translation>Das Haushaltsbuch; bei - die Standardeingabe.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation>Die Kontonummer %1 ist an %2 gebunden. Für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation>Für die Kontonummer %1 ist nichts erfasst.</translation>
     </message>
@@ -222,6 +214,18 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
   WÄHRUNG  etwa EUR
   KENNUNG  ACCTID [ACCTTYPE [BANKID]], wie in der Datei
 </translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove and add it.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden; für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
+        <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3; um das zurückzunehmen: forget %1</translation>
     </message>
 </context>
 <context>

@@ -120,10 +120,6 @@
         <translation>Le fichier ne contient pas de relevé pour %1, mais&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3; to take that back: forget %1</source>
-        <translation>Le compte numéro %1 est tenu en %2, pas en %3; pour l’annuler&#xa0;: forget %1</translation>
-    </message>
-    <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation>%1 Pour annuler la dernière date du compte numéro %2&#xa0;: forget %2</translation>
     </message>
@@ -196,10 +192,6 @@
         <translation>Le livre de comptes; s’il est remplacé par -, l’entrée standard.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2. For another account, add its ACCTTYPE and BANKID; to bind it anew, remove it and add it again.</source>
-        <translation>Le numéro de compte %1 est lié à %2. Pour un autre compte, ajoutez son ACCTTYPE et son BANKID; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
-    </message>
-    <message>
         <source>Nothing is recorded of the account number %1.</source>
         <translation>Rien n’est noté pour le numéro de compte %1.</translation>
     </message>
@@ -222,6 +214,18 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
   DEVISE       telle que CAD
   IDENTIFIANT  ACCTID [ACCTTYPE [BANKID]], comme dans le fichier
 </translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; to bind it anew, remove and add it.</source>
+        <translation>Le numéro de compte %1 est lié à %2; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
+        <translation>Le numéro de compte %1 est lié à %2; pour un autre compte, ajoutez ACCTTYPE et BANKID.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
+        <translation>Le compte numéro %1 est tenu en %2, pas en %3; pour l’annuler&#xa0;: forget %1</translation>
     </message>
 </context>
 <context>
