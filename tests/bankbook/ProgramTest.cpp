@@ -3,11 +3,14 @@
 
 #include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
 
 #if __has_include(<sys/resource.h>)
 #include <sys/resource.h>
 #include <unistd.h>
 #endif
+
+#include <fstream>
 
 using namespace testing;
 
@@ -77,6 +80,9 @@ TEST_P(Session, GoesAsExpected)
   if (name.contains("translated") && !QFileInfo::exists(program + "/../share/bankbook")) {
     GTEST_SKIP() << "It is built without its translations.";
   }
+  if (!parts['%'].isEmpty() && QSysInfo::kernelType() == "winnt") {
+    GTEST_SKIP() << "Windows keeps the user's languages elsewhere.";
+  }
   auto const setVariables = [&](QProcess& process) {
     process.setEnvironment(process.environment() + parts['%']);
   };
@@ -113,6 +119,20 @@ TEST(Program, EndsWhereItCannotReadOrWrite)
   };
   EXPECT_THAT(run({"-"}, {}, closed),
               FieldsAre(2, "", StartsWith("standard input cannot be read")));
+}
+
+TEST(Program, ReadsNoDevicesForStatements)
+{
+  EXPECT_THAT(run({"-"}, "bank Elm 1=Loan\nstatement 1 /dev/zero"),
+              FieldsAre(1, "", HasSubstr(":2: /dev/zero is not a file.\n")));
+}
+
+TEST(Program, ReadsFilesWhoseNamesBeginWithAColon)
+{
+  QTemporaryDir const folder;
+  std::ofstream((folder.path() + "/:x").toStdString()) << "bank Elm 1=Loan\nstatement 1 :x\n";
+  auto const inFolder = [&](QProcess& process) { process.setWorkingDirectory(folder.path()); };
+  EXPECT_THAT(run({":x"}, {}, inFolder), FieldsAre(1, "", StartsWith(":x:2: The file is not OFX")));
 }
 
 // The sanitizers take more memory than a limit could leave them.
