@@ -139,7 +139,7 @@ Books fromJson(QByteArray const& json)
   QJsonParseError error;
   QJsonValue const saved = QJsonDocument::fromJson(json, &error).object();
   if (error.error != QJsonParseError::NoError) {
-    throw LoadError(QString("The file is damaged: %1.").arg(error.errorString()));
+    throw LoadError(QString("The file is damaged, or holds no books.")); // Qt's words are English
   }
   std::map<BankName, Bank> banks;
   for (auto const& value : member(saved, "banks", QJsonValue::Array).toArray()) {
@@ -207,7 +207,7 @@ int main()
   show(json);
   // prints: 2 banks
   show("garbage");
-  // prints: The file is damaged: illegal value.
+  // prints: The file is damaged, or holds no books.
   show(R"({"bank": []})");
   // prints: The file has no 'banks' where one belongs, or a wrong one.
   show(QByteArray(json).replace("2026-10-31", "2026-13-31"));
