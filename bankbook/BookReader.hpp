@@ -18,7 +18,7 @@
 
 // How a book is read. The functions that read a line or a word throw BookError, with the word in its text.
 
-/// Returns the text of a line, which may end with LF or CR LF, as `toPlain` does. Throws for bytes that are
+/// Returns the text of a line, which may end with LF or CR LF, as `toPlain` does, without blanks around it. Throws for bytes that are
 /// not UTF-8, too.
 QString toText(QByteArrayView line);
 
@@ -41,9 +41,6 @@ orv::banking::BankAccountTypes toKind(QString const& word);
 
 /// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
-
-/// Returns the day that these digits of a year, a month and a day are; an invalid one for no such day.
-QDate toDay(QRegularExpressionMatch const& digits);
 
 /// Returns whether the word is three capital letters.
 bool isCurrency(QString const& word);

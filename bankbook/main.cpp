@@ -1,7 +1,6 @@
 #include "Book.hpp"
 #include "BookReader.hpp"
 
-#include <banking/BankError.hpp>
 #include <foundation/Date.hpp>
 
 #include <QCommandLineParser>
@@ -82,9 +81,7 @@ int run(QByteArray const& content, QString const& name, QDir const& folder, bool
       if (!answer.table.isEmpty() && show(answer.table) != allDone) {
         return notRun;
       }
-    } catch (BookError const& error) {
-      refusal = error.what();
-    } catch (orv::banking::BankError const& error) {
+    } catch (orv::foundation::Error const& error) { // BookError or BankError
       refusal = error.what();
     }
     if (!refusal.isEmpty()) {

@@ -9,9 +9,7 @@ static QString answer(Book& book, QString const& line)
   try {
     auto const [table, messages, reconciled] = execute(book, toWords(toText(line.toUtf8())));
     return messages.join('\n') + table.trimmed();
-  } catch (BookError const& refusal) {
-    return refusal.what();
-  } catch (BankError const& refusal) {
+  } catch (orv::foundation::Error const& refusal) { // BookError or BankError
     return refusal.what();
   }
 }
