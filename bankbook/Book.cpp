@@ -56,10 +56,8 @@ Identifier toIdentifier(Words words, qsizetype first)
 // Whether both may stand for one account: one of them is the other, begins it or is empty.
 bool mayBeOne(Identifier const& one, Identifier const& other)
 {
-  auto const& [shorter, longer] =
-      std::minmax(one, other, [](auto const& a, auto const& b) { return a.size() < b.size(); });
-  return shorter.isEmpty() ||
-         (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
+  return one.isEmpty() || other.isEmpty() || (one + u' ').startsWith(other + u' ') ||
+         (other + u' ').startsWith(one + u' ');
 }
 
 // The account with the number; of the kind `Unknown` if no bank holds it.
@@ -136,12 +134,11 @@ Identifier longer(Book const& book, AccountNumber const& number, Identifier cons
 void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& identifier,
                  QList<BankAccountTypes> const& kinds)
 {
-  for (auto const& number : boundTo(book, identifier, kinds)) {
-    refuseIf(
-        !(number == ours),
-        Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
-        presentationText(number), book.identifiers.value(number));
-  }
+  auto others = boundTo(book, identifier, kinds);
+  others.removeOne(ours);
+  refuseIf(!others.isEmpty(),
+           Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
+           presentationText(others.value(0)), book.identifiers.value(others.value(0)));
 }
 
 // The whole identifier of the account in the file that has this identifier and may be ours.
@@ -166,17 +163,17 @@ ReconciledBalance reconciled(Book const& book, BankAccount const& account,
   auto const number = presentationText(account.accountNumberBankType.accountNumber);
   auto const last = // the first is of any day and currency
       book.balances.value(account.accountNumberBankType.accountNumber, next);
-  ReconciledBankAccount updated(account, last.balance, last.occurredOn);
   refuseIf(!(last.balance.currency() == next.balance.currency()),
            Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
            number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
-    updated.reconcile(next.occurredOn, next.balance);
+    ReconciledBankAccount(account, last.balance, last.occurredOn)
+        .reconcile(next.occurredOn, next.balance);
   } catch (BankError const& refusal) {
     auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
     throw BookError(text.arg(QString::fromUtf8(refusal.what()), number));
   }
-  return {updated.balance(), *updated.reconciledOn()};
+  return next;
 }
 
 // The commands. Each takes its words, of which the first is its own name.
@@ -226,10 +223,11 @@ void list(Book& book, Words const& /*words*/, Answer& answer)
       rows += start;
     }
     for (auto const& [number, kind] : bank.accounts()) {
-      rows += start + QStringList{presentationText(number), presentationText(kind),
-                                  isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability")};
       auto const known = book.balances.value(number);
-      rows.last() += {presentationText(known.balance), presentationText(known.occurredOn)};
+      rows +=
+          start + QStringList{presentationText(number), presentationText(kind),
+                              isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability"),
+                              presentationText(known.balance), presentationText(known.occurredOn)};
     }
   }
   answer.table = toTable(rows, "llrllrl");

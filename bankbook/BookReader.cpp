@@ -1,7 +1,6 @@
 #include "BookReader.hpp"
 
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <cerrno>

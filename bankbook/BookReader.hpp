@@ -2,17 +2,14 @@
 
 #include "Text.hpp"
 
-#include <accounting/AccountNumber.hpp>
 #include <banking/BankAccountTypes.hpp>
 #include <banking/BankName.hpp>
 #include <mintar/Money.hpp>
 
-#include <QByteArrayView>
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QStringList>
 
 #include <optional>
 

@@ -4,7 +4,6 @@
 
 #include <foundation/Date.hpp>
 
-#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 

@@ -67,7 +67,6 @@ int run(QByteArray const& content, QString const& name, QDir const& folder, bool
   int number = 0;
   for (auto const& line : content.split('\n')) {
     auto const place = QStringLiteral("%1:%2: ").arg(name, QString::number(++number));
-    QString refusal;
     try {
       auto const words = toWords(toText(line));
       auto const answer = execute(book, words);
@@ -78,14 +77,11 @@ int run(QByteArray const& content, QString const& name, QDir const& folder, bool
       for (auto const& account : answer.reconciled) {
         places[account] = place;
       }
-      if (!answer.table.isEmpty() && show(answer.table) != allDone) {
+      if (show(answer.table) != allDone) {
         return notRun;
       }
-    } catch (orv::foundation::Error const& error) { // BookError or BankError
-      refusal = error.what();
-    }
-    if (!refusal.isEmpty()) {
-      tell(place + refusal);
+    } catch (orv::foundation::Error const& refusal) { // BookError or BankError
+      tell(place + refusal.what());
       ++refused;
       if (isStrict) {
         return linesRefused;
