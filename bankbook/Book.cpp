@@ -156,24 +156,24 @@ Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier c
   return found[0];
 }
 
-// What is known of the account once it is reconciled. Throws where it must not be.
-ReconciledBalance reconciled(Book const& book, BankAccount const& account,
-                             ReconciledBalance const& next)
+// Records what is known of the account from now on. Throws where it must not be.
+void record(Book& book, BankAccount const& account, ReconciledBalance const& next, Answer& answer)
 {
-  auto const number = presentationText(account.accountNumberBankType.accountNumber);
-  auto const last = // the first is of any day and currency
-      book.balances.value(account.accountNumberBankType.accountNumber, next);
+  auto const number = account.accountNumberBankType.accountNumber;
+  auto const shownNumber = presentationText(number);
+  auto const last = book.balances.value(number, next); // the first is of any day and currency
   refuseIf(!(last.balance.currency() == next.balance.currency()),
            Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
-           number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
+           shownNumber, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
     ReconciledBankAccount(account, last.balance, last.occurredOn)
         .reconcile(next.occurredOn, next.balance);
   } catch (BankError const& refusal) {
     auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
-    throw BookError(text.arg(QString::fromUtf8(refusal.what()), number));
+    throw BookError(text.arg(QString::fromUtf8(refusal.what()), shownNumber));
   }
-  return next;
+  book.balances[number] = next;
+  answer.reconciled += number;
 }
 
 // The commands. Each takes its words, of which the first is its own name.
@@ -247,9 +247,7 @@ void reconcile(Book& book, Words const& words, Answer& answer)
   }
   auto const number = toHeldNumber(book, words[1]);
   auto const date = toDate(words[2]);
-  auto const money = toMoney(words[3], words[4]);
-  book.balances[number] = reconciled(book, find(book, number), {money, date});
-  answer.reconciled = {number};
+  record(book, find(book, number), {toMoney(words[3], words[4]), date}, answer);
 }
 
 void remove(Book& book, Words const& words, Answer& /*answer*/)
@@ -280,38 +278,36 @@ void statement(Book& book, Words const& words, Answer& answer)
   refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
            Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
-  auto const all = statements.keys();
-  for (auto const& whole : all) {
-    answer.reconciled += boundTo(book, whole, statements[whole].kinds);
+  QList<AccountNumber> numbers;
+  for (auto const& [whole, told] : statements.asKeyValueRange()) {
+    numbers += boundTo(book, whole, told.kinds);
   }
   if (!isOfAll) {
-    answer.reconciled = {toHeldNumber(book, words[1])};
+    numbers = {toHeldNumber(book, words[1])};
   }
   auto const typed = toIdentifier(words, isOfAll ? 2 : 3);
-  auto identifiers = book.identifiers;
-  auto balances = book.balances;
-  for (auto const& number : answer.reconciled) {
+  auto next = book;
+  for (auto const& number : numbers) {
     auto const account = find(book, number);
     auto const whole = wholeOf(account, statements, longer(book, number, typed));
     auto const& [kinds, balance, fault] = statements[whole];
     checkIsFree(book, number, whole, kinds);
     refuseIf(!fault.isEmpty(), fault);
-    identifiers[number] = whole;
-    balances[number] = reconciled(book, account, balance);
+    next.identifiers[number] = whole;
+    record(next, account, balance, answer);
     answer.messages +=
         filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
                presentationText(account.accountNumberBankType, Yes), whole,
                presentationText(balance.occurredOn), presentationText(balance.balance));
   }
-  book.identifiers = identifiers; // Either all is taken, or nothing.
-  book.balances = balances;
+  book = next; // Either all is taken, or nothing.
 
-  auto others = all;
+  auto others = statements.keys();
   others.removeIf(
       [&](auto const& whole) { return !boundTo(book, whole, statements[whole].kinds).isEmpty(); });
   auto const text =
       Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
-  refuseIf(answer.reconciled.isEmpty(), text, others);
+  refuseIf(numbers.isEmpty(), text, others);
   if (!others.isEmpty()) {
     answer.messages += filled(text, others);
   }

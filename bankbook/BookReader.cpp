@@ -19,28 +19,25 @@ QString toText(QByteArrayView line)
 QStringList toWords(QString const& line)
 {
   QStringList words;
-  QString word;
   bool inWord = false;
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size() && (inWord || line[i] != u'#'); ++i) {
-    auto const c = line[i];
-    refuseIf(!inWord && QStringView(u"“”„‟«»").contains(c),
-             BookError::tr("%1 is not a straight double quote."), QString(c));
-    if (inWord && !inQuotes && c == u' ') {
-      words += std::exchange(word, {});
+    refuseIf(!inWord && QStringView(u"“”„‟«»").contains(line[i]),
+             BookError::tr("%1 is not a straight double quote."), QString(line[i]));
+    auto const wasInWord = std::exchange(inWord, inQuotes || line[i] != u' ');
+    if (inWord && !wasInWord) {
+      words += QString();
     }
-    inWord = inQuotes || c != u' ';
-    if (c == u'"') {
+    if (line[i] == u'"') {
       inQuotes = !inQuotes;
     } else if (inWord) {
-      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
-      auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
-      i += isEscape ? 1 : 0;
-      word += isEscape ? next : c;
+      auto const pair = QStringView(line).mid(i, 2);
+      i += inQuotes && (pair == u"\\\"" || pair == u"\\\\") ? 1 : 0;
+      words.last() += line[i];
     }
   }
   refuseIf(inQuotes, BookError::tr("A quoted word does not end; close it with a straight quote."));
-  return inWord ? words << word : words;
+  return words;
 }
 
 QString toLine(QStringList words)
