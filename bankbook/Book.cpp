@@ -44,12 +44,9 @@ Bank toBank(Words const& words)
 }
 
 // The identifier in the words from this one on, as statements have it.
-Identifier toIdentifier(Words words, qsizetype first)
+Identifier toIdentifier(Words const& words, qsizetype first)
 {
-  for (auto& word : words) {
-    word = word.simplified();
-  }
-  requireForm(!words.value(first, words[0]).isEmpty(), words[0]);
+  requireForm(!words.value(first, words[0]).trimmed().isEmpty(), words[0]);
   return toLine(words.mid(first));
 }
 

@@ -44,6 +44,7 @@ QString toLine(QStringList words)
 {
   static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\“”„‟«»]+$"));
   for (auto& word : words) {
+    word = word.simplified();
     if (!plain.match(word).hasMatch()) {
       word.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
       word = u'"' + word + u'"';

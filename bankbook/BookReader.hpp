@@ -24,7 +24,7 @@ QString toText(QByteArrayView line);
 /// Throws for a quote that does not end, and for a curly one where a word begins.
 QStringList toWords(QString const& line);
 
-/// Returns the words as a line has them, in quotes where they take them.
+/// Returns the words as a line has them, simplified and in quotes where they take them.
 QString toLine(QStringList words);
 
 /// Reads the name of a bank, which may have 100 characters.

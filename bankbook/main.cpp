@@ -158,9 +158,8 @@ int main(int argc, char* argv[])
     book.open(fileno(stdin), QIODevice::ReadOnly);
   }
   auto const name = isStandardInput ? Book::tr("standard input") : files[0];
-  auto const folder = isStandardInput ? QDir() : QFileInfo(book).absoluteDir();
   try {
-    return run(contentOf(book, name), name, folder, parser.isSet("strict"));
+    return run(contentOf(book, name), name, QFileInfo(book).absoluteDir(), parser.isSet("strict"));
   } catch (BookError const& error) {
     return tell(error.what());
   } catch (std::bad_alloc const&) { // when the book is gone, and its memory with it
