@@ -10,8 +10,9 @@ using mintar::Money;
 
 QString toText(QByteArrayView line)
 {
+  line.chop(line.endsWith('\r') ? 1 : 0);
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  QString const text = decode(line.trimmed());
+  QString const text = decode(line);
   refuseIf(decode.hasError(), BookError::tr("The line is not UTF-8 text; save the book as UTF-8."));
   return toPlain(text);
 }

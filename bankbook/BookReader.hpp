@@ -15,7 +15,7 @@
 
 // How a book is read. The functions that read a line or a word throw BookError, with the word in its text.
 
-/// Returns the text of a line, which may end with LF or CR LF, as `toPlain` does, without blanks around it. Throws for bytes that are
+/// Returns the text of a line, which may end with a CR from CR LF, as `toPlain` does. Throws for bytes that are
 /// not UTF-8, too.
 QString toText(QByteArrayView line);
 
