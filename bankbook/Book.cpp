@@ -53,8 +53,10 @@ Identifier toIdentifier(Words const& words, qsizetype first)
 // Whether both may stand for one account: one of them is the other, begins it or is empty.
 bool mayBeOne(Identifier const& one, Identifier const& other)
 {
-  return one.isEmpty() || other.isEmpty() || (one + u' ').startsWith(other + u' ') ||
-         (other + u' ').startsWith(one + u' ');
+  auto const& [shorter, longer] =
+      std::minmax(one, other, [](auto const& a, auto const& b) { return a.size() < b.size(); });
+  return shorter.isEmpty() ||
+         (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
 }
 
 // The account with the number; of the kind `Unknown` if no bank holds it.

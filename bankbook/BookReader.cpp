@@ -101,7 +101,7 @@ Money toMoney(QString const& amount, QString const& currency)
   static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
   static QRegularExpression const wrongSign(QStringLiteral("^([+−–(]|--)|[-−–)]$"));
   static QRegularExpression const separator(
-      QStringLiteral(",[0-9]|[0-9]['’ ][0-9]{3}|[.][0-9]{3}[.]"));
+      QStringLiteral(",[0-9]|['’ ][0-9]{3}|[.,][0-9]{3}[.,]"));
   refuseIf(!isCurrency(currency), BookError::tr("'%1' is not a currency such as CAD."), currency);
   refuseIf(amount.contains(wrongSign),
            BookError::tr("The sign of '%1' is wrong; only what you owe has one, -."), amount);
