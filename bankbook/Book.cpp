@@ -271,7 +271,7 @@ void rename(Book& book, Words const& words, Answer& /*answer*/)
 void statement(Book& book, Words const& words, Answer& answer)
 {
   auto const isOfAll = words.size() == 2;
-  auto const fileName = words[isOfAll ? 1 : 2];
+  auto const& fileName = words[isOfAll ? 1 : 2];
   QFile file(pathOf(book.folder, fileName));
   QFileInfo const info(file);
   refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end

@@ -142,7 +142,7 @@ QString pathOf(QDir const& folder, QString const& fileName)
 QByteArray contentOf(QFile& file, QString const& name)
 {
   auto const isOpen = file.isOpen() || file.open(QIODevice::ReadOnly);
-  auto const content = isOpen ? file.readAll() : QByteArray();
+  auto content = isOpen ? file.readAll() : QByteArray();
   // Of a folder, each system has its own difficulty, and Qt its own words.
   auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
   refuseIf(file.error() != QFile::NoError, BookError::tr("%1 cannot be read: %2"), name, reason);
