@@ -44,12 +44,9 @@ Bank toBank(Words const& words)
 }
 
 // The identifier in the words from this one on, as statements have it.
-Identifier toIdentifier(Words words, qsizetype first)
+Identifier toIdentifier(Words const& words, qsizetype first)
 {
-  for (auto& word : words) {
-    word = word.simplified();
-  }
-  requireForm(!words.value(first, words[0]).isEmpty(), words[0]);
+  requireForm(!words.value(first, words[0]).trimmed().isEmpty(), words[0]);
   return toLine(words.mid(first));
 }
 
@@ -136,12 +133,11 @@ Identifier longer(Book const& book, AccountNumber const& number, Identifier cons
 void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& identifier,
                  QList<BankAccountTypes> const& kinds)
 {
-  for (auto const& number : boundTo(book, identifier, kinds)) {
-    refuseIf(
-        !(number == ours),
-        Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
-        presentationText(number), book.identifiers.value(number));
-  }
+  auto others = boundTo(book, identifier, kinds);
+  others.removeOne(ours);
+  refuseIf(!others.isEmpty(),
+           Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
+           presentationText(others.value(0)), book.identifiers.value(others.value(0)));
 }
 
 // The whole identifier of the account in the file that has this identifier and may be ours.
@@ -159,24 +155,24 @@ Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier c
   return found[0];
 }
 
-// What is known of the account once it is reconciled. Throws where it must not be.
-ReconciledBalance reconciled(Book const& book, BankAccount const& account,
-                             ReconciledBalance const& next)
+// Records what is known of the account from now on. Throws where it must not be.
+void record(Book& book, BankAccount const& account, ReconciledBalance const& next, Answer& answer)
 {
-  auto const number = presentationText(account.accountNumberBankType.accountNumber);
-  auto const last = // the first is of any day and currency
-      book.balances.value(account.accountNumberBankType.accountNumber, next);
-  ReconciledBankAccount updated(account, last.balance, last.occurredOn);
+  auto const number = account.accountNumberBankType.accountNumber;
+  auto const shownNumber = presentationText(number);
+  auto const last = book.balances.value(number, next); // the first is of any day and currency
   refuseIf(!(last.balance.currency() == next.balance.currency()),
            Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
-           number, last.balance.currency().isoCode(), next.balance.currency().isoCode());
+           shownNumber, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
-    updated.reconcile(next.occurredOn, next.balance);
+    ReconciledBankAccount(account, last.balance, last.occurredOn)
+        .reconcile(next.occurredOn, next.balance);
   } catch (BankError const& refusal) {
     auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
-    throw BookError(text.arg(QString::fromUtf8(refusal.what()), number));
+    throw BookError(text.arg(QString::fromUtf8(refusal.what()), shownNumber));
   }
-  return {updated.balance(), *updated.reconciledOn()};
+  book.balances[number] = next;
+  answer.reconciled += number;
 }
 
 // The commands. Each takes its words, of which the first is its own name.
@@ -226,10 +222,11 @@ void list(Book& book, Words const& /*words*/, Answer& answer)
       rows += start;
     }
     for (auto const& [number, kind] : bank.accounts()) {
-      rows += start + QStringList{presentationText(number), presentationText(kind),
-                                  isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability")};
       auto const known = book.balances.value(number);
-      rows.last() += {presentationText(known.balance), presentationText(known.occurredOn)};
+      rows +=
+          start + QStringList{presentationText(number), presentationText(kind),
+                              isAssetAccount(kind) ? Book::tr("asset") : Book::tr("liability"),
+                              presentationText(known.balance), presentationText(known.occurredOn)};
     }
   }
   answer.table = toTable(rows, "llrllrl");
@@ -249,9 +246,7 @@ void reconcile(Book& book, Words const& words, Answer& answer)
   }
   auto const number = toHeldNumber(book, words[1]);
   auto const date = toDate(words[2]);
-  auto const money = toMoney(words[3], words[4]);
-  book.balances[number] = reconciled(book, find(book, number), {money, date});
-  answer.reconciled = {number};
+  record(book, find(book, number), {toMoney(words[3], words[4]), date}, answer);
 }
 
 void remove(Book& book, Words const& words, Answer& /*answer*/)
@@ -276,44 +271,42 @@ void rename(Book& book, Words const& words, Answer& /*answer*/)
 void statement(Book& book, Words const& words, Answer& answer)
 {
   auto const isOfAll = words.size() == 2;
-  auto const fileName = words[isOfAll ? 1 : 2];
+  auto const& fileName = words[isOfAll ? 1 : 2];
   QFile file(pathOf(book.folder, fileName));
   QFileInfo const info(file);
   refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
            Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
-  auto const all = statements.keys();
-  for (auto const& whole : all) {
-    answer.reconciled += boundTo(book, whole, statements[whole].kinds);
+  QList<AccountNumber> numbers;
+  for (auto const& [whole, told] : statements.asKeyValueRange()) {
+    numbers += boundTo(book, whole, told.kinds);
   }
   if (!isOfAll) {
-    answer.reconciled = {toHeldNumber(book, words[1])};
+    numbers = {toHeldNumber(book, words[1])};
   }
   auto const typed = toIdentifier(words, isOfAll ? 2 : 3);
-  auto identifiers = book.identifiers;
-  auto balances = book.balances;
-  for (auto const& number : answer.reconciled) {
+  auto next = book;
+  for (auto const& number : numbers) {
     auto const account = find(book, number);
     auto const whole = wholeOf(account, statements, longer(book, number, typed));
     auto const& [kinds, balance, fault] = statements[whole];
     checkIsFree(book, number, whole, kinds);
     refuseIf(!fault.isEmpty(), fault);
-    identifiers[number] = whole;
-    balances[number] = reconciled(book, account, balance);
+    next.identifiers[number] = whole;
+    record(next, account, balance, answer);
     answer.messages +=
         filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
                presentationText(account.accountNumberBankType, Yes), whole,
                presentationText(balance.occurredOn), presentationText(balance.balance));
   }
-  book.identifiers = identifiers; // Either all is taken, or nothing.
-  book.balances = balances;
+  book = next; // Either all is taken, or nothing.
 
-  auto others = all;
+  auto others = statements.keys();
   others.removeIf(
       [&](auto const& whole) { return !boundTo(book, whole, statements[whole].kinds).isEmpty(); });
   auto const text =
       Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
-  refuseIf(answer.reconciled.isEmpty(), text, others);
+  refuseIf(numbers.isEmpty(), text, others);
   if (!others.isEmpty()) {
     answer.messages += filled(text, others);
   }

@@ -2,7 +2,6 @@
 
 #include "OfxReader.hpp"
 
-#include <accounting/AccountNumber.hpp>
 #include <banking/BankMap.hpp>
 
 #include <QCoreApplication>

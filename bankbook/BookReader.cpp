@@ -1,7 +1,6 @@
 #include "BookReader.hpp"
 
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <cerrno>
@@ -11,7 +10,6 @@ using mintar::Money;
 
 QString toText(QByteArrayView line)
 {
-  line.chop(line.endsWith('\n') ? 1 : 0);
   line.chop(line.endsWith('\r') ? 1 : 0);
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
   QString const text = decode(line);
@@ -22,35 +20,32 @@ QString toText(QByteArrayView line)
 QStringList toWords(QString const& line)
 {
   QStringList words;
-  QString word;
   bool inWord = false;
   bool inQuotes = false;
   for (qsizetype i = 0; i < line.size() && (inWord || line[i] != u'#'); ++i) {
-    auto const c = line[i];
-    if (!inWord && QStringView(u"“”„‟«»").contains(c)) {
-      throw BookError(BookError::tr("%1 is not a straight double quote."), QString(c));
+    refuseIf(!inWord && QStringView(u"“”„‟«»").contains(line[i]),
+             BookError::tr("%1 is not a straight double quote."), QString(line[i]));
+    auto const wasInWord = std::exchange(inWord, inQuotes || line[i] != u' ');
+    if (inWord && !wasInWord) {
+      words += QString();
     }
-    if (inWord && !inQuotes && c == u' ') {
-      words += std::exchange(word, {});
-    }
-    inWord = inQuotes || c != u' ';
-    if (c == u'"') {
+    if (line[i] == u'"') {
       inQuotes = !inQuotes;
     } else if (inWord) {
-      auto const next = i + 1 < line.size() ? line[i + 1] : QChar();
-      auto const isEscape = inQuotes && c == u'\\' && (next == u'"' || next == u'\\');
-      i += isEscape ? 1 : 0;
-      word += isEscape ? next : c;
+      auto const pair = QStringView(line).mid(i, 2);
+      i += inQuotes && (pair == u"\\\"" || pair == u"\\\\") ? 1 : 0;
+      words.last() += line[i];
     }
   }
   refuseIf(inQuotes, BookError::tr("A quoted word does not end; close it with a straight quote."));
-  return inWord ? words << word : words;
+  return words;
 }
 
 QString toLine(QStringList words)
 {
   static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\“”„‟«»]+$"));
   for (auto& word : words) {
+    word = word.simplified();
     if (!plain.match(word).hasMatch()) {
       word.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
       word = u'"' + word + u'"';
@@ -89,15 +84,10 @@ orv::banking::BankAccountTypes toKind(QString const& word)
 
 QDate toDate(QString const& word)
 {
-  static QRegularExpression const form(QStringLiteral("^([0-9]{4})-([0-9]{2})-([0-9]{2})$"));
-  auto const day = toDay(form.match(word));
-  refuseIf(!day.isValid(), BookError::tr("'%1' is not a date such as 2026-01-31."), word);
+  auto const day = QDate::fromString(word, Qt::ISODate); // which takes more forms than one
+  refuseIf(!day.isValid() || day.toString(Qt::ISODate) != word,
+           BookError::tr("'%1' is not a date such as 2026-01-31."), word);
   return day;
-}
-
-QDate toDay(QRegularExpressionMatch const& digits)
-{
-  return {digits.captured(1).toInt(), digits.captured(2).toInt(), digits.captured(3).toInt()};
 }
 
 bool isCurrency(QString const& word)
@@ -109,23 +99,19 @@ bool isCurrency(QString const& word)
 Money toMoney(QString const& amount, QString const& currency)
 {
   static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
-  static std::pair<QString, char const*> const faults[]{
-      {"^([+−–(]|--)|[-−–)]$",
-       QT_TRANSLATE_NOOP("BookError", "The sign of '%1' is wrong; only what you owe has one, -.")},
-      {"^-?[0-9]*,[0-9]+$",
-       QT_TRANSLATE_NOOP("BookError", "'%1' has a comma; decimals follow a point, and nothing "
-                                      "stands between thousands.")},
-      {"[0-9][.,'’ ][0-9]{3}([.,]|$)",
-       QT_TRANSLATE_NOOP("BookError", "'%1' has separators; nothing stands between thousands.")},
-      {"", QT_TRANSLATE_NOOP("BookError", "'%1' is no amount such as -1250.50.")},
-  };
+  static QRegularExpression const wrongSign(QStringLiteral("^([+−–(]|--)|[-−–)]$"));
+  static QRegularExpression const separator(
+      QStringLiteral(",[0-9]|['’ ][0-9]{3}|[.,][0-9]{3}[.,]"));
   refuseIf(!isCurrency(currency), BookError::tr("'%1' is not a currency such as CAD."), currency);
-  mintar::Currency const known(currency);
+  refuseIf(amount.contains(wrongSign),
+           BookError::tr("The sign of '%1' is wrong; only what you owe has one, -."), amount);
+  refuseIf(amount.contains(separator),
+           BookError::tr("'%1' has separators; decimals follow a point, and nothing stands between "
+                         "thousands."),
+           amount);
   auto const parts = form.match(amount);
-  for (auto const& [fault, text] : faults) {
-    refuseIf(!parts.hasMatch() && amount.contains(QRegularExpression(fault)), BookError::tr(text),
-             amount);
-  }
+  refuseIf(!parts.hasMatch(), BookError::tr("'%1' is no amount such as -1250.50."), amount);
+  mintar::Currency const known(currency);
   refuseIf(parts.captured(3).size() > known.decimals(),
            BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "
                          "between thousands."),
@@ -156,11 +142,9 @@ QString pathOf(QDir const& folder, QString const& fileName)
 QByteArray contentOf(QFile& file, QString const& name)
 {
   auto const isOpen = file.isOpen() || file.open(QIODevice::ReadOnly);
-  auto const content = isOpen ? file.readAll() : QByteArray();
-  if (file.error() != QFile::NoError) {
-    // Of a folder, each system has its own difficulty, and Qt its own words.
-    auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
-    throw BookError(BookError::tr("%1 cannot be read: %2"), name, reason);
-  }
+  auto content = isOpen ? file.readAll() : QByteArray();
+  // Of a folder, each system has its own difficulty, and Qt its own words.
+  auto const reason = QFileInfo(file).isDir() ? qt_error_string(EISDIR) : file.errorString();
+  refuseIf(file.error() != QFile::NoError, BookError::tr("%1 cannot be read: %2"), name, reason);
   return content;
 }

@@ -2,23 +2,20 @@
 
 #include "Text.hpp"
 
-#include <accounting/AccountNumber.hpp>
 #include <banking/BankAccountTypes.hpp>
 #include <banking/BankName.hpp>
 #include <mintar/Money.hpp>
 
-#include <QByteArrayView>
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QStringList>
 
 #include <optional>
 
 // How a book is read. The functions that read a line or a word throw BookError, with the word in its text.
 
-/// Returns the text of a line, which may end with LF or CR LF, as `toPlain` does. Throws for bytes that are
+/// Returns the text of a line, which may end with a CR from CR LF, as `toPlain` does. Throws for bytes that are
 /// not UTF-8, too.
 QString toText(QByteArrayView line);
 
@@ -27,7 +24,7 @@ QString toText(QByteArrayView line);
 /// Throws for a quote that does not end, and for a curly one where a word begins.
 QStringList toWords(QString const& line);
 
-/// Returns the words as a line has them, in quotes where they take them.
+/// Returns the words as a line has them, simplified and in quotes where they take them.
 QString toLine(QStringList words);
 
 /// Reads the name of a bank, which may have 100 characters.
@@ -41,9 +38,6 @@ orv::banking::BankAccountTypes toKind(QString const& word);
 
 /// Reads a date in ISO 8601, 2026-01-31.
 QDate toDate(QString const& word);
-
-/// Returns the day that these digits of a year, a month and a day are; an invalid one for no such day.
-QDate toDay(QRegularExpressionMatch const& digits);
 
 /// Returns whether the word is three capital letters.
 bool isCurrency(QString const& word);

@@ -4,7 +4,6 @@
 
 #include <foundation/Date.hpp>
 
-#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
@@ -89,8 +88,7 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
   // An amount has a point or a comma; a date begins with the day, whatever time and zone follow.
   static QRegularExpression const amountForm(
       QStringLiteral("^(?:\\+|(-))?(?=[.,]?[0-9])([0-9]*)(?:[.,]([0-9]+))?$"));
-  static QRegularExpression const dateForm(
-      QStringLiteral("^([0-9]{4})([0-9]{2})([0-9]{2})(?:[0-9]{2}){0,3}(?![0-9])"));
+  static QRegularExpression const dateForm(QStringLiteral("^([0-9]{8})(?:[0-9]{2}){0,3}(?![0-9])"));
   checkStatus(values);
   toPlain(QStringList(values.values()).join(u' '));
   for (QString const element :
@@ -104,7 +102,8 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
            BookError::tr("The statement's BALAMT '%1' has three decimals, or thousands."),
            amount.captured());
   auto const balance = amount.hasMatch() ? exactMoney(amount, currency) : std::nullopt;
-  auto const day = toDay(dateForm.match(values["LEDGERBAL/DTASOF"]));
+  auto const digits = dateForm.match(values["LEDGERBAL/DTASOF"]).captured(1);
+  auto const day = QDate::fromString(digits, "yyyyMMdd");
   refuseIf(!isCurrency(currency.isoCode()), unreadable, "CURDEF", currency.isoCode());
   refuseIf(!balance, unreadable, "BALAMT", values["LEDGERBAL/BALAMT"]);
   refuseIf(!day.isValid(), unreadable, "DTASOF", values["LEDGERBAL/DTASOF"]);

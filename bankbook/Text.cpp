@@ -6,19 +6,10 @@
 
 namespace {
 
-bool isPrintable(char32_t c)
-{
-  auto const category = QChar::category(c);
-  // Scripts and emoji need joiners, and text from right to left its marks.
-  auto const isNeeded = c == 0x061C || (c >= 0x200C && c <= 0x200F);
-  return isNeeded || (category != QChar::Other_Format && category != QChar::Other_Control &&
-                      category != QChar::Separator_Line && category != QChar::Separator_Paragraph);
-}
-
-QString codeOf(char32_t c)
-{
-  return QStringLiteral("\\u{%1}").arg(QString::number(c, 16).toUpper());
-}
+// What a terminal cannot show or would obey. Scripts and emoji need joiners, and text from right to left
+// its marks.
+QRegularExpression const
+    unprintable(QStringLiteral("(?![\\x{61C}\\x{200C}-\\x{200F}])[\\p{Cc}\\p{Cf}\\p{Zl}\\p{Zp}]"));
 
 // In columns of a terminal.
 qsizetype widthOf(QString const& text)
@@ -34,30 +25,25 @@ qsizetype widthOf(QString const& text)
 
 QString toPlain(QString text)
 {
-  for (auto& c : text) {
-    if (c == u'\t' || c.category() == QChar::Separator_Space) {
-      c = u' ';
-    }
-  }
-  for (auto const c : text.toStdU32String()) {
-    if (!isPrintable(c)) {
-      auto const hint = BookError::tr("The character %1 cannot be shown; save the file as UTF-8, "
-                                      "with lines that end with LF or CR LF.");
-      auto const isOfFile = c == 0 || c == '\r'; // which UTF-16 has, or lines that end with CR
-      throw BookError(isOfFile ? hint : BookError::tr("The character %1 cannot be shown."),
-                      codeOf(c));
-    }
-  }
+  static QRegularExpression const blank(QStringLiteral("[\\t\\p{Zs}]"));
+  text.replace(blank, QStringLiteral(" "));
+  auto const found = unprintable.match(text).captured();
+  auto const isOfFile = found == QChar(0) || found == u"\r"; // UTF-16, or lines that end with CR
+  refuseIf(!found.isEmpty(),
+           isOfFile ? BookError::tr("The character %1 cannot be shown; save the file as UTF-8, "
+                                    "with lines that end with LF or CR LF.")
+                    : BookError::tr("The character %1 cannot be shown."),
+           printable(found));
   return text;
 }
 
-QString printable(QString const& text)
+QString printable(QString text)
 {
-  QString shown;
-  for (auto const c : text.toStdU32String()) {
-    shown += isPrintable(c) ? QString::fromUcs4(&c, 1) : codeOf(c);
+  for (auto found = unprintable.match(text); found.hasMatch(); found = unprintable.match(text)) {
+    auto const code = QString::number(found.captured().toUcs4()[0], 16).toUpper();
+    text.replace(found.captured(), QStringLiteral("\\u{%1}").arg(code));
   }
-  return shown;
+  return text;
 }
 
 QString shown(QString const& value)

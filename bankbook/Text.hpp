@@ -1,9 +1,9 @@
 #pragma once
 
+#include <foundation/Error.hpp>
+
 #include <QCoreApplication>
 #include <QStringList>
-
-#include <stdexcept>
 
 /// Returns what a message shows of a value: its first 100 characters.
 QString shown(QString const& value);
@@ -20,12 +20,12 @@ QString filled(QString const& text, Values const&... values)
 
 /// An error of whoever wrote a line, or of a file that it names. `what()` is for the user, translated and
 /// in UTF-8, as it is of the library's own errors.
-class BookError : public std::runtime_error
+class BookError : public orv::foundation::Error
 {
   Q_DECLARE_TR_FUNCTIONS(BookError)
 
 public:
-  explicit BookError(QString const& text) : std::runtime_error(text.toStdString()) {}
+  explicit BookError(QString const& text) : Error(text, std::exception()) {}
 
   /// Creates an error with the text that `filled` returns.
   template <typename... Values>
@@ -52,7 +52,7 @@ QString toPlain(QString text);
 
 /// Returns the text with the code of each character that cannot be shown in its place, for instance
 /// \u{1B}.
-QString printable(QString const& text);
+QString printable(QString text);
 
 /// Returns a table for a terminal, columns as wide as their widest text, two spaces apart, the first row
 /// underlined. `alignments` has one letter a column, l for left, r for right.

@@ -1,7 +1,6 @@
 #include "Book.hpp"
 #include "BookReader.hpp"
 
-#include <banking/BankError.hpp>
 #include <foundation/Date.hpp>
 
 #include <QCommandLineParser>
@@ -68,7 +67,6 @@ int run(QByteArray const& content, QString const& name, QDir const& folder, bool
   int number = 0;
   for (auto const& line : content.split('\n')) {
     auto const place = QStringLiteral("%1:%2: ").arg(name, QString::number(++number));
-    QString refusal;
     try {
       auto const words = toWords(toText(line));
       auto const answer = execute(book, words);
@@ -79,16 +77,11 @@ int run(QByteArray const& content, QString const& name, QDir const& folder, bool
       for (auto const& account : answer.reconciled) {
         places[account] = place;
       }
-      if (!answer.table.isEmpty() && show(answer.table) != allDone) {
+      if (show(answer.table) != allDone) {
         return notRun;
       }
-    } catch (BookError const& error) {
-      refusal = error.what();
-    } catch (orv::banking::BankError const& error) {
-      refusal = error.what();
-    }
-    if (!refusal.isEmpty()) {
-      tell(place + refusal);
+    } catch (orv::foundation::Error const& refusal) { // BookError or BankError
+      tell(place + refusal.what());
       ++refused;
       if (isStrict) {
         return linesRefused;
@@ -165,9 +158,8 @@ int main(int argc, char* argv[])
     book.open(fileno(stdin), QIODevice::ReadOnly);
   }
   auto const name = isStandardInput ? Book::tr("standard input") : files[0];
-  auto const folder = isStandardInput ? QDir() : QFileInfo(book).absoluteDir();
   try {
-    return run(contentOf(book, name), name, folder, parser.isSet("strict"));
+    return run(contentOf(book, name), name, QFileInfo(book).absoluteDir(), parser.isSet("strict"));
   } catch (BookError const& error) {
     return tell(error.what());
   } catch (std::bad_alloc const&) { // when the book is gone, and its memory with it

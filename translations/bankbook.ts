@@ -270,14 +270,6 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no amount such as -1250.50.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -323,6 +315,10 @@ quote, \\ a backslash. # begins a comment.
     </message>
     <message>
         <source>The file has two balances of %1: %2 and %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

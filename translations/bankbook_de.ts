@@ -279,14 +279,6 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
         <translation>Das Vorzeichen von „%1“ ist falsch; nur Schulden haben eines, -.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
-        <translation>„%1“ enthält ein Komma; das Dezimaltrennzeichen ist ein Punkt, und Tausendertrennzeichen gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
-        <translation>„%1“ enthält Tausendertrennzeichen; lassen Sie sie weg (Dezimaltrennzeichen: Punkt).</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no amount such as -1250.50.</source>
         <translation>„%1“ ist kein Betrag wie -1250.50 (Dezimaltrennzeichen: Punkt).</translation>
     </message>
@@ -333,6 +325,10 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
     <message>
         <source>The file has two balances of %1: %2 and %3.</source>
         <translation>Die Datei enthält zwei Salden vom %1: %2 und %3.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
+        <translation>„%1“ enthält andere Trennzeichen; das Dezimaltrennzeichen ist ein Punkt, und Tausendertrennzeichen gibt es nicht.</translation>
     </message>
 </context>
 </TS>

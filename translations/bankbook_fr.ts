@@ -279,14 +279,6 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
         <translation>Le signe de «&#xa0;%1&#xa0;» est incorrect; seul ce que vous devez en a un, -.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a comma; decimals follow a point, and nothing stands between thousands.</source>
-        <translation>«&#xa0;%1&#xa0;» contient une virgule; le séparateur décimal est un point, et rien ne sépare les milliers.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; has separators; nothing stands between thousands.</source>
-        <translation>«&#xa0;%1&#xa0;» contient des séparateurs; rien ne sépare les milliers (séparateur décimal&#xa0;: point).</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is no amount such as -1250.50.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme -1250.50 (séparateur décimal&#xa0;: point).</translation>
     </message>
@@ -333,6 +325,10 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
     <message>
         <source>The file has two balances of %1: %2 and %3.</source>
         <translation>Le fichier contient deux soldes du %1&#xa0;: %2 et %3.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
+        <translation>«&#xa0;%1&#xa0;» contient des séparateurs; le séparateur décimal est un point, et rien ne sépare les milliers.</translation>
     </message>
 </context>
 </TS>

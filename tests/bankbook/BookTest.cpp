@@ -9,9 +9,7 @@ static QString answer(Book& book, QString const& line)
   try {
     auto const [table, messages, reconciled] = execute(book, toWords(toText(line.toUtf8())));
     return messages.join('\n') + table.trimmed();
-  } catch (BookError const& refusal) {
-    return refusal.what();
-  } catch (BankError const& refusal) {
+  } catch (orv::foundation::Error const& refusal) { // BookError or BankError
     return refusal.what();
   }
 }
@@ -40,14 +38,11 @@ TEST_P(Transcript, HasTheAnswers)
 INSTANTIATE_TEST_SUITE_P(Book, Transcript, testing::ValuesIn(filesIn("transcripts")),
                          [](auto const& info) { return plain(info.param); });
 
-// What the form finds in a text.
+// What the form captures in the lines that have it.
 static QStringList found(QString const& text, char const* form)
 {
-  QStringList texts;
-  QRegularExpression const expression(form, QRegularExpression::MultilineOption);
-  for (auto matches = expression.globalMatch(text); matches.hasNext();) {
-    texts += matches.next().captured(1);
-  }
+  QRegularExpression const line(form);
+  auto texts = text.split('\n').filter(line).replaceInStrings(line, "\\1");
   texts.sort();
   texts.removeDuplicates();
   return texts;
@@ -58,5 +53,5 @@ TEST(Commands, StandInTheManualPageAndInTheFuzzersCorpus)
   auto const page = textOf("../../bankbook/bankbook.1.in").remove('\\');
   auto const corpus = textOf("../../fuzz/corpus/book/every-command");
   EXPECT_EQ(found(page, "^\\.B ([a-z].*)$"), found(usage(), "^  ([a-z].*)$"));
-  EXPECT_EQ(found(corpus, "^([a-z]+)"), found(usage(), "^  ([a-z]+)"));
+  EXPECT_EQ(found(corpus, "^([a-z]+).*"), found(usage(), "^  ([a-z]+).*"));
 }

@@ -121,12 +121,6 @@ TEST(Program, EndsWhereItCannotReadOrWrite)
               FieldsAre(2, "", StartsWith("standard input cannot be read")));
 }
 
-TEST(Program, ReadsNoDevicesForStatements)
-{
-  EXPECT_THAT(run({"-"}, "bank Elm 1=Loan\nstatement 1 /dev/zero"),
-              FieldsAre(1, "", HasSubstr(":2: /dev/zero is not a file.\n")));
-}
-
 TEST(Program, ReadsFilesWhoseNamesBeginWithAColon)
 {
   QTemporaryDir const folder;
