@@ -88,20 +88,17 @@ public:
               tr("Another window has changed the file. Reload it, then make your change again."));
       execute(u"CREATE TEMP TABLE books "
               "(bank, closed, number, kind, currency, minor_units, occurred_on)"_s);
-      auto const insert = u"INSERT INTO books VALUES (?, ?, ?, ?, ?, ?, ?)"_s;
+      QList<QVariantList> rows;
       for (auto const& [name, bank] : books.banks) {
-        execute(insert, {name.institution(), bank.isClosed(), {}, {}, {}, {}, {}});
+        rows.push_back({name.institution(), bank.isClosed(), {}, {}, {}, {}, {}});
         for (auto const& [number, kind] : bank.accounts()) {
-          auto const [balance, date] = books.last(number); // no text is NULL
-          execute(insert, {name.institution(),
-                           {},
-                           number.integer(),
-                           toNonLocalisedText(kind),
-                           balance.currency().isoCode(),
-                           balance.minorUnits(),
-                           date.toString(Qt::ISODate)});
+          auto const [balance, date] = books.last(number); // a text that is not there is NULL
+          rows.push_back({name.institution(), QVariant(), number.integer(),
+                          toNonLocalisedText(kind), balance.currency().isoCode(),
+                          balance.minorUnits(), date.toString(Qt::ISODate)});
         }
       }
+      execute(u"INSERT INTO books VALUES (?, ?, ?, ?, ?, ?, ?)"_s, rows);
       run(u":/save.sql"_s);
     });
   }
@@ -144,15 +141,17 @@ private:
 
   QString value(QString const& select) { return execute(select).value(0).value(0); }
 
-  // Returns the rows that a statement selects.
-  QList<QStringList> execute(QString const& statement, QVariantList const& values = {})
+  // Executes a statement, once with each list of values, and returns the rows that it selects.
+  QList<QStringList> execute(QString const& statement,
+                             QList<QVariantList> const& lists = {QVariantList()})
   {
     QSqlQuery query(database_);
-    if (query.prepare(statement)) {
-      for (auto const& value : values) {
-        query.addBindValue(value);
+    auto isGood = query.prepare(statement);
+    for (auto const& values : lists) {
+      for (qsizetype place = 0; place < values.size(); ++place) {
+        query.bindValue(static_cast<int>(place), values[place]);
       }
-      query.exec();
+      isGood = isGood && query.exec();
     }
     QList<QStringList> rows;
     auto const columns = query.record().count();

@@ -1,9 +1,7 @@
 #include "Window.hpp"
 
-namespace {
-
 // The window's own translation decides on the language of all texts: nobody is to read two at a time.
-void installTranslators()
+static void installTranslators()
 {
   QLocale language;
   for (auto const& file : {u":/i18n/bank-window"_s, u":/i18n/orv-banking"_s,
@@ -16,8 +14,6 @@ void installTranslators()
     language = QLocale(translator->language());
   }
 }
-
-} // namespace
 
 int main(int argc, char* argv[])
 {
