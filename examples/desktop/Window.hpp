@@ -133,7 +133,7 @@ private:
   }
 
   // Asks for the name of a bank, which is a new one if it has none yet.
-  void nameBank(BankName const& from)
+  void nameBank(BankName const from)
   {
     auto* const field = new QLineEdit(from.institution());
     field->selectAll();

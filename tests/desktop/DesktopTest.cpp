@@ -72,7 +72,7 @@ protected:
   QTemporaryDir const folder_{};
   QString const path_ = folder_.filePath(u"household.books"_s);
   Session session_{path_};
-  QSqlDatabase other_ = QSqlDatabase::addDatabase(u"QSQLITE"_s); // does not know of foreign keys
+  QSqlDatabase other_ = QSqlDatabase::addDatabase(u"QSQLITE"_s, path_); // knows no foreign keys
   QString said_{};
 };
 
