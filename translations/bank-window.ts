@@ -12,22 +12,11 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>closed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount such as %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>Session</name>
-    <message>
-        <source>Rows of the file that cannot be read would be lost.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -62,11 +51,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>It is there twice.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not 0 or 1.</source>
+        <source>Rows of the file that cannot be read would be lost.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -133,10 +118,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Re&amp;move Bank</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Account</source>
         <translation type="unfinished"></translation>
     </message>
@@ -146,10 +127,6 @@
     </message>
     <message>
         <source>Re&amp;concile…</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Re&amp;move Account</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -181,10 +158,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The bank holds account %1 as %2. Change it to %3?</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Reconcile Account %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -206,6 +179,18 @@
     </message>
     <message>
         <source>Nothing can be changed, or these rows, which cannot be read, would be lost:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank holds account %1 already. Change its kind to %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>closed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

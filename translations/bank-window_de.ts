@@ -12,23 +12,12 @@
         <translation>„%1“ ist keine Währung wie EUR.</translation>
     </message>
     <message>
-        <source>closed</source>
-        <translation>geschlossen</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
         <translation>„%1“ ist kein Datum wie %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount such as %2.</source>
         <translation>„%1“ ist kein Betrag wie %2.</translation>
-    </message>
-</context>
-<context>
-    <name>Session</name>
-    <message>
-        <source>Rows of the file that cannot be read would be lost.</source>
-        <translation>Zeilen der Datei, die nicht gelesen werden können, gingen verloren.</translation>
     </message>
 </context>
 <context>
@@ -62,12 +51,8 @@
         <translation>Die Datei kann nicht gelesen oder geschrieben werden: %1</translation>
     </message>
     <message>
-        <source>It is there twice.</source>
-        <translation>Es ist doppelt vorhanden.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not 0 or 1.</source>
-        <translation>„%1“ ist weder 0 noch 1.</translation>
+        <source>Rows of the file that cannot be read would be lost.</source>
+        <translation>Zeilen der Datei, die nicht gelesen werden können, gingen verloren.</translation>
     </message>
 </context>
 <context>
@@ -133,10 +118,6 @@
         <translation>Wieder ö&amp;ffnen</translation>
     </message>
     <message>
-        <source>Re&amp;move Bank</source>
-        <translation>Bank &amp;entfernen</translation>
-    </message>
-    <message>
         <source>&amp;Account</source>
         <translation>&amp;Konto</translation>
     </message>
@@ -147,10 +128,6 @@
     <message>
         <source>Re&amp;concile…</source>
         <translation>&amp;Abgleichen …</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Account</source>
-        <translation>Konto &amp;entfernen</translation>
     </message>
     <message>
         <source>Example, which is not kept</source>
@@ -181,10 +158,6 @@
         <translation>&amp;Art:</translation>
     </message>
     <message>
-        <source>The bank holds account %1 as %2. Change it to %3?</source>
-        <translation>Die Bank führt das Konto %1 als %2. In %3 ändern?</translation>
-    </message>
-    <message>
         <source>Reconcile Account %1</source>
         <translation>Konto %1 abgleichen</translation>
     </message>
@@ -207,6 +180,18 @@
     <message>
         <source>Nothing can be changed, or these rows, which cannot be read, would be lost:</source>
         <translation>Nichts kann geändert werden, da sonst diese nicht lesbaren Zeilen verloren gingen:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>The bank holds account %1 already. Change its kind to %2?</source>
+        <translation>Die Bank führt das Konto %1 bereits. Seine Art in %2 ändern?</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
     </message>
 </context>
 </TS>

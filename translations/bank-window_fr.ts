@@ -12,23 +12,12 @@
         <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
     </message>
     <message>
-        <source>closed</source>
-        <translation>fermée</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a date such as %2.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une date comme %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount such as %2.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme %2.</translation>
-    </message>
-</context>
-<context>
-    <name>Session</name>
-    <message>
-        <source>Rows of the file that cannot be read would be lost.</source>
-        <translation>Les lignes illisibles du fichier seraient perdues.</translation>
     </message>
 </context>
 <context>
@@ -62,12 +51,8 @@
         <translation>Lecture ou écriture du fichier impossible&#xa0;: %1</translation>
     </message>
     <message>
-        <source>It is there twice.</source>
-        <translation>Cette ligne est en double.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is not 0 or 1.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est ni 0 ni 1.</translation>
+        <source>Rows of the file that cannot be read would be lost.</source>
+        <translation>Les lignes illisibles du fichier seraient perdues.</translation>
     </message>
 </context>
 <context>
@@ -133,10 +118,6 @@
         <translation>R&amp;ouvrir</translation>
     </message>
     <message>
-        <source>Re&amp;move Bank</source>
-        <translation>&amp;Supprimer la banque</translation>
-    </message>
-    <message>
         <source>&amp;Account</source>
         <translation>&amp;Compte</translation>
     </message>
@@ -147,10 +128,6 @@
     <message>
         <source>Re&amp;concile…</source>
         <translation>Ra&amp;pprocher…</translation>
-    </message>
-    <message>
-        <source>Re&amp;move Account</source>
-        <translation>&amp;Supprimer le compte</translation>
     </message>
     <message>
         <source>Example, which is not kept</source>
@@ -181,10 +158,6 @@
         <translation>&amp;Type&#xa0;:</translation>
     </message>
     <message>
-        <source>The bank holds account %1 as %2. Change it to %3?</source>
-        <translation>La banque a déjà le compte %1, de type %2. Remplacer ce type par %3?</translation>
-    </message>
-    <message>
         <source>Reconcile Account %1</source>
         <translation>Rapprocher le compte %1</translation>
     </message>
@@ -207,6 +180,18 @@
     <message>
         <source>Nothing can be changed, or these rows, which cannot be read, would be lost:</source>
         <translation>Aucune modification n’est possible, car ces lignes illisibles seraient perdues&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>The bank holds account %1 already. Change its kind to %2?</source>
+        <translation>La banque a déjà le compte %1. Remplacer son type par %2?</translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>fermée</translation>
     </message>
 </context>
 </TS>

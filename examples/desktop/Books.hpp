@@ -31,6 +31,14 @@ struct Books
 public:
   BankMap banks{};
   std::map<AccountNumber, ReconciledBalance> balances{};
+  QStringList problems{}; ///< what is wrong with rows of the file, which are not in the books
+
+  /// Returns what the bank of an account reported last, or an empty report.
+  [[nodiscard]] ReconciledBalance last(AccountNumber number) const
+  {
+    auto const found = balances.find(number);
+    return found == balances.end() ? ReconciledBalance() : found->second;
+  }
 };
 
 /// Records what the bank of an account reported.
@@ -39,11 +47,11 @@ public:
 inline void reconcile(Books& books, AccountNumber number, ReconciledBalance const& reported)
 {
   auto const bank = books.banks.find(number).value();
-  BankAccount const held{bank.name(), {number, bank.accounts().at(number)}};
-  auto const last = books.balances.find(number);
-  auto account = last == books.balances.end()
-                     ? ReconciledBankAccount(held, reported.balance.currency())
-                     : ReconciledBankAccount(held, last->second.balance, last->second.occurredOn);
+  ReconciledBankAccount account({bank.name(), {number, bank.accounts().at(number)}},
+                                reported.balance.currency());
+  if (books.balances.contains(number)) {
+    account.reconcile(books.last(number).occurredOn, books.last(number).balance);
+  }
   account.reconcile(reported.occurredOn, reported.balance);
   books.balances.insert_or_assign(number, reported);
 }
@@ -61,11 +69,11 @@ inline void dropLostBalances(Books& books)
   std::erase_if(books.balances, [&](auto const& entry) { return !held.contains(entry.first); });
 }
 
-/// Returns a text without what does not show: marks of direction, and white space around it.
+/// Returns a text without marks of direction, which do not show, and with ordinary spaces.
 inline QString visible(QString text)
 {
   static QRegularExpression const marks(u"\\p{Cf}"_s);
-  return text.remove(marks).trimmed();
+  return text.remove(marks).simplified();
 }
 
 /// Reads an account number. \throws UserError if the text is none
@@ -89,45 +97,42 @@ inline mintar::Currency toCurrency(QString const& text)
 /// It has no more decimals than the currency. \throws UserError if the text is none
 inline mintar::Money toMoney(QString const& text, mintar::Currency const& currency)
 {
-  QLocale const locale;
-  auto plain = visible(text).remove(currency.isoCode());
-  if (locale.currencySymbol(QLocale::CurrencyIsoCode) == currency.isoCode()) {
-    plain.remove(locale.currencySymbol());
-  }
-  // Keyboards have no keys for some of the signs, spaces and apostrophes that locales write. Negative amounts
-  // may stand in parentheses.
-  auto const group = QRegularExpression::escape(locale.groupSeparator());
-  auto const point = QRegularExpression::escape(locale.decimalPoint());
-  QRegularExpression const form(
-      u"^\\s*([-\u2212(]?)\\s*(\\d+|\\d{1,3}(?:[%1\\s']\\d{2,3})*[%1\\s']\\d{3})(?:%2(\\d+))?\\s*(\\)?)\\s*$"_s
-          .arg(group, point),
-      QRegularExpression::UseUnicodePropertiesOption);
-  auto const match = form.match(plain);
-  auto const decimals = match.captured(3);
-  auto digits = match.captured(1).isEmpty() ? QString() : u"-"_s;
-  for (auto const c : match.captured(2) + decimals.leftJustified(currency.decimals(), u'0')) {
-    digits += c.isDigit() ? QString::number(c.digitValue()) : QString();
-  }
+  static QRegularExpression const enclosed(u"^\\((.*)\\)$"_s); // a negative amount in some locales
+  static QRegularExpression const typedGroup(u"[ ']"_s); // for what keyboards have no keys for
+  QLocale locale;
+  auto const code = currency.isoCode();
+  auto const isOwn = locale.currencySymbol(QLocale::CurrencyIsoCode) == code;
+  auto const symbol = QRegularExpression::escape(isOwn ? visible(locale.currencySymbol()) : code);
+  auto const parts = visible(text)
+                         .remove(QRegularExpression(u" ?(%1|%2) ?"_s.arg(code, symbol)))
+                         .replace(enclosed, u"-\\1"_s)
+                         .replace(typedGroup, locale.groupSeparator())
+                         .split(locale.decimalPoint());
+  auto const decimals = parts.value(1);
+  bool isWhole = false;
+  locale.toLongLong(parts[0], &isWhole);
   bool fits = false;
-  mintar::Money const amount(currency, digits.toLongLong(&fits));
-  auto const isEnclosed = (match.captured(1) == u"(") == (match.captured(4) == u")");
-  require(match.hasMatch() && isEnclosed && fits && decimals.size() <= currency.decimals(),
+  locale.setNumberOptions(QLocale::RejectGroupSeparator);
+  auto const units =
+      locale.toLongLong(QString(parts[0]).remove(locale.groupSeparator()) + decimals +
+                            locale.zeroDigit().repeated(currency.decimals() - decimals.size()),
+                        &fits);
+  require(isWhole && fits && parts.size() <= 2 && decimals.size() <= currency.decimals(),
           Books::tr("'%1' is not an amount such as %2.")
               .arg(text, presentationText(mintar::Money(currency, 125050))));
-  return amount;
+  return {currency, units};
 }
 
 /// Reads a date as the user's locale writes it, with all digits of the year, or in ISO 8601.
 /// \throws UserError if the text is none
 inline QDate toDate(QString const& text)
 {
-  static QRegularExpression const shortYear(u"(?<!y)yy(?!y)"_s);
-  static QRegularExpression const twoDigits(u"(?<![dM])([dM])\\1(?![dM])"_s);
+  static QRegularExpression const twoDigits(u"\\b([dM])\\1\\b"_s);
   auto format = visible(QLocale().dateFormat(QLocale::ShortFormat));
-  format.replace(shortYear, u"yyyy"_s).replace(twoDigits, u"\\1"_s);
+  format.replace(u"yyyy"_s, u"yy"_s).replace(u"yy"_s, u"yyyy"_s).replace(twoDigits, u"\\1"_s);
   auto const local = QLocale().toDate(visible(text), format);
   auto const date = local.isValid() ? local : QDate::fromString(visible(text), Qt::ISODate);
-  require(date.isValid() && date.year() > 0,
+  require(date.year() > 0, // that of an invalid date is 0
           Books::tr("'%1' is not a date such as %2.")
               .arg(text, orv::foundation::presentationText(QDate::currentDate())));
   return date;

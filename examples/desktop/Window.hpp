@@ -1,11 +1,278 @@
 #pragma once
 
-#include <QMainWindow>
+#include "Session.hpp"
 
-#include <memory>
+#include <QtWidgets>
 
-/// Returns a window on the books of a file, which it makes if there is none. Without a name, they are an
-/// example, which is not kept.
-///
-/// \throws UserError if the file cannot be read, or holds something else
-std::unique_ptr<QMainWindow> newWindow(QString const& file);
+/// A cell of the row of a bank, or of an account beneath it.
+class Item : public QStandardItem
+{
+public:
+  // Banks are in the order of the user's language, accounts in that of their numbers.
+  bool operator<(QStandardItem const& other) const override
+  {
+    static QCollator const collator;
+    return parent() ? text().toUInt() < other.text().toUInt() : collator(text(), other.text());
+  }
+};
+
+/// Brings the rows beneath an item in line with the entries of a map: a row shows a key, and the cells that are
+/// returned for the entry. A row that stays keeps its indexes, and one that is new takes over those of one that
+/// is gone, as when a bank has been renamed: so a view keeps what is selected and expanded.
+void updateRows(QStandardItem* parent, auto const& entries, auto const& cells)
+{
+  QMap<QString, QStandardItem*> items;
+  for (int row = 0; row < parent->rowCount(); ++row) {
+    items.insert(parent->child(row)->text(), parent->child(row));
+  }
+  auto gone = items;
+  for (auto const& [key, value] : entries) {
+    gone.remove(presentationText(key));
+  }
+  for (auto const& [key, value] : entries) {
+    auto* item = items.value(presentationText(key));
+    if (item == nullptr && gone.isEmpty()) {
+      parent->appendRow({item = new Item, new Item, new Item, new Item});
+      parent->child(item->row(), 2)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    } else if (item == nullptr) {
+      item = gone.take(gone.firstKey());
+    }
+    item->setText(presentationText(key));
+    int column = 0;
+    for (auto const& text : cells(item, key, value)) {
+      parent->child(item->row(), ++column)->setText(text);
+    }
+  }
+  for (auto* const item : gone) {
+    parent->removeRow(item->row());
+  }
+}
+
+/// A window on the books of a file. Without a name, they are an example, which is not kept.
+class Window : public QMainWindow
+{
+  Q_DECLARE_TR_FUNCTIONS(Window)
+
+public:
+  /// \throws UserError if the file cannot be read, or holds something else
+  explicit Window(QString const& file) : session_(file)
+  {
+    auto* const splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(view_);
+    splitter->addWidget(problems_);
+    setCentralWidget(splitter);
+    problems_->setReadOnly(true);
+    model_.setHorizontalHeaderLabels(
+        {tr("Bank, account"), tr("Kind"), tr("Balance"), tr("Reconciled on")});
+    view_->setModel(&model_);
+    view_->setEditTriggers(QTreeView::NoEditTriggers);
+    view_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    view_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(&model_, &QStandardItemModel::rowsInserted, view_, &QTreeView::expand);
+    connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { run([this] { enableCommands(); }); });
+
+    auto const always = [] { return true; };
+    auto const isSound = [this] { return session_.books().problems.isEmpty(); };
+    auto const canUndo = [this] { return session_.canUndo(); };
+    auto const canRedo = [this] { return session_.canRedo(); };
+    auto const hasBank = [this] { return bank() != nullptr; };
+    auto const hasOpenBank = [this] { return bank() && !bank()->isClosed(); };
+    auto const hasClosedBank = [this] { return bank() && bank()->isClosed(); };
+    auto const hasAccount = [this] { return account() != AccountNumber(); };
+    auto* menu = menuBar()->addMenu(tr("&File"));
+    addCommand(menu, tr("&Reload"), QKeySequence::Refresh, always, [this] { session_.reload(); });
+    addCommand(menu, tr("&Quit"), QKeySequence::Quit, always, [this] { close(); });
+    menu = menuBar()->addMenu(tr("&Edit"));
+    addCommand(menu, tr("&Undo"), QKeySequence::Undo, canUndo, [this] { session_.undo(); });
+    addCommand(menu, tr("&Redo"), QKeySequence::Redo, canRedo, [this] { session_.redo(); });
+    addCommand(menu, tr("Re&move"), QKeySequence::Delete, hasBank, [this] { remove(); });
+    menu = menuBar()->addMenu(tr("&Bank"));
+    addCommand(menu, tr("&New…"), QKeySequence::New, isSound, [this] { nameBank({}); });
+    addCommand(menu, tr("&Rename…"), Qt::Key_F2, hasOpenBank, [this] { nameBank(bank()->name()); });
+    addCommand(menu, tr("&Close"), {}, hasOpenBank, [this] { change(&BankMap::close); });
+    addCommand(menu, tr("Re&open"), {}, hasClosedBank, [this] { change(&BankMap::open); });
+    menu = menuBar()->addMenu(tr("&Account"));
+    addCommand(menu, tr("&Add…"), Qt::Key_Insert, hasBank, [this] { addAccount(); });
+    addCommand(menu, tr("Re&concile…"), Qt::CTRL | Qt::Key_R, hasAccount,
+               [this] { reconcileAccount(); });
+    setWindowTitle(file.isEmpty() ? tr("Example, which is not kept") : QFileInfo(file).fileName());
+    resize(640, 480);
+    refresh();
+  }
+
+private:
+  void addCommand(QMenu* menu, QString const& text, QKeySequence const& keys,
+                  auto const& isPossible, auto const& carryOut)
+  {
+    auto* const action = menu->addAction(text, keys, this, [this, carryOut] {
+      run([&] {
+        carryOut();
+        refresh();
+      });
+    });
+    view_->addAction(action); // to its context menu
+    commands_.emplace_back(action, isPossible);
+  }
+
+  // Calls a function of the registry with the selected bank.
+  void change(void (BankMap::*call)(BankName const&))
+  {
+    auto const name = bank()->name();
+    session_.change([&](Books& books) { (books.banks.*call)(name); });
+  }
+
+  // Removes the selected account, or else the selected bank.
+  void remove()
+  {
+    auto const name = bank()->name();
+    auto const number = account();
+    session_.change([&](Books& books) {
+      number == AccountNumber() ? books.banks.remove(name) : books.banks.remove(name, number);
+    });
+  }
+
+  // Asks for the name of a bank, which is a new one if it has none yet.
+  void nameBank(BankName const from)
+  {
+    auto* const field = new QLineEdit(from.institution());
+    field->selectAll();
+    ask(from.isEmpty() ? tr("New Bank") : tr("Rename Bank"), {{tr("&Name:"), field}}, [&] {
+      BankName const to(field->text().trimmed());
+      if (to != from) { // or the registry would refuse it
+        session_.change([&](Books& books) {
+          from.isEmpty() ? books.banks.add(Bank(to, {}, false)) : books.banks.rename(from, to);
+        });
+      }
+      refresh();
+      view_->setCurrentIndex(model_.findItems(presentationText(to)).first()->index());
+    });
+  }
+
+  void addAccount()
+  {
+    auto const bank = *this->bank();
+    auto* const field = new QLineEdit;
+    auto* const box = new QComboBox;
+    using enum BankAccountTypes;
+    for (auto const kind : {Chequeing, CreditCard, Loan, Savings, Goal}) {
+      box->addItem(presentationText(kind), QVariant::fromValue(kind));
+    }
+    ask(tr("Add Account"), {{tr("&Number:"), field}, {tr("&Kind:"), box}}, [&] {
+      auto const number = toAccountNumber(field->text());
+      auto const question = tr("The bank holds account %1 already. Change its kind to %2?")
+                                .arg(presentationText(number), box->currentText());
+      if (!bank.accounts().contains(number) ||
+          QMessageBox::question(this, windowTitle(), question) == QMessageBox::Yes) {
+        auto const kind = box->currentData().value<BankAccountTypes>();
+        session_.change([&](Books& books) { books.banks.add(bank.name(), number, kind); });
+      }
+    });
+  }
+
+  void reconcileAccount()
+  {
+    auto const number = account();
+    auto const last = session_.books().last(number).balance.currency().isoCode();
+    auto* const amount = new QLineEdit;
+    auto* const currency =
+        new QLineEdit(last.isEmpty() ? QLocale().currencySymbol(QLocale::CurrencyIsoCode) : last);
+    auto* const date = new QLineEdit(orv::foundation::presentationText(QDate::currentDate()));
+    ask(tr("Reconcile Account %1").arg(presentationText(number)),
+        {{tr("&Balance:"), amount}, {tr("&Currency:"), currency}, {tr("&Date:"), date}}, [&] {
+          auto const balance = toMoney(amount->text(), toCurrency(currency->text().toUpper()));
+          session_.change([&](Books& books) {
+            reconcile(books, number, {balance, toDate(date->text())});
+          });
+        });
+  }
+
+  // Asks with a form, which stays until what is in it is accepted or the user gives up.
+  void ask(QString const& title, std::vector<std::pair<QString, QWidget*>> const& fields,
+           auto const& accept)
+  {
+    QDialog dialog(this);
+    dialog.setWindowTitle(title);
+    QFormLayout form(&dialog);
+    for (auto const& [label, field] : fields) {
+      form.addRow(label, field);
+    }
+    QDialogButtonBox buttons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    form.addRow(&buttons);
+    connect(&buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    connect(&buttons, &QDialogButtonBox::accepted, &dialog, [&] {
+      run([&] {
+        accept();
+        dialog.accept();
+      });
+    });
+    dialog.exec();
+  }
+
+  // Does what a slot does, and shows the user why it cannot be done: no exception may leave a slot.
+  void run(auto const& work)
+  {
+    auto* const parent = QApplication::activeWindow();
+    try {
+      work();
+    } catch (UserError const& error) {
+      QMessageBox::warning(parent, windowTitle(), QString::fromUtf8(error.what()));
+    } catch (std::exception const& error) {
+      QMessageBox::critical(parent, windowTitle(),
+                            tr("The program has a fault: %1").arg(QString::fromUtf8(error.what())));
+    }
+  }
+
+  void refresh()
+  {
+    auto const& books = session_.books();
+    updateRows(model_.invisibleRootItem(), books.banks, [&](auto* item, auto&, Bank const& bank) {
+      updateRows(item, bank.accounts(), [&](auto*, AccountNumber number, BankAccountTypes kind) {
+        auto const [balance, date] = books.last(number);
+        return QStringList{presentationText(kind), presentationText(balance),
+                           orv::foundation::presentationText(date)};
+      });
+      return QStringList(bank.isClosed() ? tr("closed") : QString());
+    });
+    model_.sort(0);
+    problems_->setVisible(!books.problems.isEmpty());
+    problems_->setPlainText(
+        tr("Nothing can be changed, or these rows, which cannot be read, would be lost:") + u'\n' +
+        books.problems.join(u'\n'));
+    enableCommands();
+  }
+
+  void enableCommands()
+  {
+    for (auto const& [action, isPossible] : commands_) {
+      action->setEnabled(isPossible());
+    }
+  }
+
+  // What is selected to be changed: nothing if the file has problems.
+  QModelIndex selected() const
+  {
+    auto const rows = view_->selectionModel()->selectedRows();
+    return session_.books().problems.isEmpty() ? rows.value(0) : QModelIndex();
+  }
+
+  // The selected bank, or that of the selected account; until the next change.
+  Bank const* bank() const
+  {
+    auto const row = selected().parent().isValid() ? selected().parent() : selected();
+    auto const& banks = session_.books().banks;
+    auto const name = row.isValid() ? BankName(row.data().toString()) : BankName();
+    return banks.hasBank(name) ? &banks.bank(name) : nullptr;
+  }
+
+  AccountNumber account() const
+  {
+    return AccountNumber(selected().parent().isValid() ? selected().data().toUInt() : 0);
+  }
+
+  Session session_;
+  QStandardItemModel model_{};
+  QTreeView* view_ = new QTreeView;
+  QTextEdit* problems_ = new QTextEdit;
+  std::vector<std::pair<QAction*, std::function<bool()>>> commands_{};
+};

@@ -8,7 +8,7 @@ INSERT INTO banks (name, closed)
   SELECT bank, closed FROM books WHERE number IS NULL
   ON CONFLICT (name) DO UPDATE SET closed = excluded.closed WHERE closed <> excluded.closed;
 REPLACE INTO accounts (number, bank, kind, currency, minor_units, occurred_on)
-  SELECT number, id, kind, currency, minor_units, occurred_on
+  SELECT number, id, kind, currency, iif(currency IS NULL, NULL, minor_units), occurred_on
   FROM books JOIN banks ON name = books.bank WHERE number IS NOT NULL
   EXCEPT SELECT number, bank, kind, currency, minor_units, occurred_on FROM accounts;
 DELETE FROM accounts WHERE number NOT IN (SELECT number FROM books WHERE number IS NOT NULL);
