@@ -90,8 +90,8 @@ Accounts accountsOf(Book const& book, BankName const& name)
   return book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
 }
 
-// Drops what is known of those accounts that are no longer there, and the identifiers of those that have
-// changed their kind.
+// Drops what is known of those accounts that are no longer there, and the identifiers of those that
+// have changed their kind.
 void drop(Book& book, Accounts const& before)
 {
   for (auto const& [number, kind] : before) {
@@ -118,8 +118,8 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
   return numbers;
 }
 
-// The longer one of the identifier that the account is bound to and this one. Throws where they are of two
-// accounts.
+// The longer one of the identifier that the account is bound to and this one. Throws where they are
+// of two accounts.
 Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
 {
   auto const bound = book.identifiers.value(number);

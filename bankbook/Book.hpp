@@ -7,8 +7,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
-/// Somebody's books: banks, and what these reported last of each account. The lines of a book alone change
-/// it.
+/// Somebody's books: banks, and what these reported last of each account. The lines of a book alone
+/// change it.
 struct Book
 {
   QDir folder = QDir::current(); ///< to which the names of files in the lines are relative

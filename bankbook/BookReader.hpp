@@ -15,13 +15,14 @@
 
 // How a book is read. The functions that read a line or a word throw BookError, with the word in its text.
 
-/// Returns the text of a line, which may end with a CR from CR LF, as `toPlain` does. Throws for bytes that are
-/// not UTF-8, too.
+/// Returns the text of a line, which may end with a CR from CR LF, as `toPlain` does. Throws for
+/// bytes that are not UTF-8, too.
 QString toText(QByteArrayView line);
 
-/// Returns the words of a line: blanks separate them, double quotes hold words with blanks together, and
-/// # where a word could begin starts a comment. In quotes, \" and \\ stand for a quote and a backslash.
-/// Throws for a quote that does not end, and for a curly one where a word begins.
+/// Returns the words of a line: blanks separate them, double quotes hold words with blanks
+/// together, and # where a word could begin starts a comment. In quotes, \" and \\ stand for a
+/// quote and a backslash. Throws for a quote that does not end, and for a curly one where a word
+/// begins.
 QStringList toWords(QString const& line);
 
 /// Returns the words as a line has them, simplified and in quotes where they take them.
@@ -45,14 +46,14 @@ bool isCurrency(QString const& word);
 /// Reads an amount, for instance "-1250.5", with no more decimals than the currency has.
 mintar::Money toMoney(QString const& amount, QString const& currency);
 
-/// Returns the amount that a sign, digits and decimals make, or nothing if it takes more than 64 bits, or
-/// decimals other than zeros that the currency has not.
+/// Returns the amount that a sign, digits and decimals make, or nothing if it takes more than 64
+/// bits, or decimals other than zeros that the currency has not.
 std::optional<mintar::Money> exactMoney(QRegularExpressionMatch const& parts,
                                         mintar::Currency const& currency);
 
 /// Returns the path of the file that a user names.
 QString pathOf(QDir const& folder, QString const& fileName);
 
-/// Returns all that the file holds, which is opened if it is not yet. Throws if it cannot be read, with the
-/// reason as the system says it.
+/// Returns all that the file holds, which is opened if it is not yet. Throws if it cannot be read,
+/// with the reason as the system says it.
 QByteArray contentOf(QFile& file, QString const& name);

@@ -24,8 +24,8 @@ struct Tag
   std::size_t end = std::string_view::npos;
 };
 
-// The first tag from a place on, past comments, sections, elements like <X/>, and a < that stands for
-// itself.
+// The first tag from a place on, past comments, sections, elements like <X/>, and a < that stands
+// for itself.
 Tag nextTag(std::string_view content, std::size_t from)
 {
   static QRegularExpression const form(
@@ -65,7 +65,8 @@ QString toValue(std::string_view bytes)
   return (xml.hasError() ? text : value).simplified();
 }
 
-// What is read of a statement, by element. The elements of its balance are named like LEDGERBAL/BALAMT.
+// What is read of a statement, by element. The elements of its balance are named like
+// LEDGERBAL/BALAMT.
 using Values = QMap<QString, QString>;
 
 // What the bank's type of an account stands for. A goal is money set aside.
@@ -115,8 +116,8 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
 
 Statements readOfx(QByteArray const& bytes)
 {
-  // The elements that hold others, whose tags tell whether the file is whole. All others are values: in
-  // SGML they may do without end tags, and some banks mistype them.
+  // The elements that hold others, whose tags tell whether the file is whole. All others are
+  // values: in SGML they may do without end tags, and some banks mistype them.
   static QRegularExpression const holder(QStringLiteral(
       "^(?:OFX|SIGNONMSGSRSV1|SONRS|FI|STATUS|(?:BANK|CREDITCARD|INVSTMT)MSGSRSV1|"
       "(?:CC|INV)?STMT(?:TRN)?RS|(?:BANK|CC|INV)ACCTFROM|(?:BANK|CC)ACCTTO|BANKTRANLIST|STMTTRN|"

@@ -6,8 +6,9 @@
 #include <QMap>
 #include <QString>
 
-/// What a bank calls an account, as it is typed in a line: its ACCTID, its type and, unless it is a credit
-/// card, its BANKID, which may be "". The first, or the first two, stand for every account that has them.
+/// What a bank calls an account, as it is typed in a line: its ACCTID, its type and, unless it is a
+/// credit card, its BANKID, which may be "". The first, or the first two, stand for every account
+/// that has them.
 using Identifier = QString;
 
 /// What a bank's statements say of an account: the balance of the latest day.
@@ -21,8 +22,9 @@ struct Statement
 /// The accounts in a file, by their whole identifiers.
 using Statements = QMap<Identifier, Statement>;
 
-/// Reads the statements in an OFX file's content: SGML (version 1) or XML (version 2), in any encoding that
-/// contains ASCII. Of investments it reads which accounts there are, and nothing else.
+/// Reads the statements in an OFX file's content: SGML (version 1) or XML (version 2), in any
+/// encoding that contains ASCII. Of investments it reads which accounts there are, and nothing
+/// else.
 ///
 /// \throws BookError if the content is not one whole OFX file, or has no statement
 ///

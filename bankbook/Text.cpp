@@ -6,8 +6,8 @@
 
 namespace {
 
-// What a terminal cannot show or would obey. Scripts and emoji need joiners, and text from right to left
-// its marks.
+// What a terminal cannot show or would obey. Scripts and emoji need joiners, and text from right to
+// left its marks.
 QRegularExpression const
     unprintable(QStringLiteral("(?![\\x{61C}\\x{200C}-\\x{200F}])[\\p{Cc}\\p{Cf}\\p{Zl}\\p{Zp}]"));
 

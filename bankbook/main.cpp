@@ -35,8 +35,8 @@ int show(QString const& text)
                                          : tell(Book::tr("Standard output cannot be written."));
 }
 
-// Bankbook's own translation decides on the language of all texts: nobody is to read two at a time. Only
-// why a file cannot be read may be in the system's.
+// Bankbook's own translation decides on the language of all texts: nobody is to read two at a time.
+// Only why a file cannot be read may be in the system's.
 void installTranslators()
 {
   QDir share(QCoreApplication::applicationDirPath());
@@ -155,7 +155,8 @@ int main(int argc, char* argv[])
   auto const isStandardInput = files[0] == u"-";
   QFile book(pathOf(QDir(), files[0]));
   if (isStandardInput) {
-    book.open(fileno(stdin), QIODevice::ReadOnly);
+    static_cast<void>(
+        book.open(fileno(stdin), QIODevice::ReadOnly)); // contentOf tells why it is not
   }
   auto const name = isStandardInput ? Book::tr("standard input") : files[0];
   try {

@@ -1,5 +1,6 @@
-// Saves a household's books as JSON and loads them again. The page on saving and loading shows parts
-// of it. A comment "prints:" tells what is printed there; a test compares these comments with the output.
+// Saves a household's books as JSON and loads them again. The page on saving and loading shows
+// parts of it. A comment "prints:" tells what is printed there; a test compares these comments with
+// the output.
 
 #include <banking/BankMap.hpp>
 #include <banking/ReconciledBalance.hpp>
@@ -171,8 +172,8 @@ Books load(QString const& fileName)
   return fromJson(file.readAll());
 }
 
-// Shows how many banks there are, or why they cannot be loaded. A program that goes on in spite of an error
-// must not save to the same file: that would replace the user's books.
+// Shows how many banks there are, or why they cannot be loaded. A program that goes on in spite of
+// an error must not save to the same file: that would replace the user's books.
 void show(QByteArray const& json)
 {
   try {

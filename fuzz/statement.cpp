@@ -1,7 +1,8 @@
 #include "BookReader.hpp"
 #include "OfxReader.hpp"
 
-// Whatever the bytes, of each statement everything is known, or what is wrong; or the file is refused.
+// Whatever the bytes, of each statement everything is known, or what is wrong; or the file is
+// refused.
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size)
 {
   try {

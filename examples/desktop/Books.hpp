@@ -22,8 +22,8 @@ inline void require(bool condition, QString const& text)
   }
 }
 
-/// A household's books, a value: its banks, and what they reported last of each account, if anything. Which
-/// bank holds an account, and as what, is in the registry alone.
+/// A household's books, a value: its banks, and what they reported last of each account, if
+/// anything. Which bank holds an account, and as what, is in the registry alone.
 struct Books
 {
   Q_DECLARE_TR_FUNCTIONS(Books)
@@ -56,8 +56,9 @@ inline void reconcile(Books& books, AccountNumber number, ReconciledBalance cons
   books.balances.insert_or_assign(number, reported);
 }
 
-/// Drops the balances of accounts that no bank holds any longer. This is all that a change of the banks does
-/// to balances: they stay when a bank is renamed or closed, and when an account changes its kind.
+/// Drops the balances of accounts that no bank holds any longer. This is all that a change of the
+/// banks does to balances: they stay when a bank is renamed or closed, and when an account changes
+/// its kind.
 inline void dropLostBalances(Books& books)
 {
   std::set<AccountNumber> held;
@@ -93,8 +94,8 @@ inline mintar::Currency toCurrency(QString const& text)
   return mintar::Currency(text);
 }
 
-/// Reads an amount exactly, as the user's locale writes it: with or without groups of digits and the currency.
-/// It has no more decimals than the currency. \throws UserError if the text is none
+/// Reads an amount exactly, as the user's locale writes it: with or without groups of digits and
+/// the currency. It has no more decimals than the currency. \throws UserError if the text is none
 inline mintar::Money toMoney(QString const& text, mintar::Currency const& currency)
 {
   static QRegularExpression const enclosed(u"^\\((.*)\\)$"_s); // a negative amount in some locales

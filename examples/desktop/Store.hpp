@@ -11,7 +11,8 @@ class Store
   Q_DISABLE_COPY_MOVE(Store)
 
 public:
-  /// Opens the file, and makes it if there is none. Without a name, the books are an example, which is not kept.
+  /// Opens the file, and makes it if there is none. Without a name, the books are an example, which
+  /// is not kept.
   ///
   /// \throws UserError if the file cannot be opened
   explicit Store(QString const& file)
@@ -78,8 +79,8 @@ public:
 
   /// Writes the books.
   ///
-  /// \throws UserError if the books have problems, if the file has been changed since `load`, or if it cannot be
-  /// written. It is unchanged then
+  /// \throws UserError if the books have problems, if the file has been changed since `load`, or if
+  ///          it cannot be written. It is unchanged then
   void save(Books const& books)
   {
     require(books.problems.isEmpty(), tr("Rows of the file that cannot be read would be lost."));
@@ -120,7 +121,7 @@ private:
   void run(QString const& script)
   {
     QFile file(script);
-    file.open(QFile::ReadOnly);
+    require(file.open(QFile::ReadOnly), file.errorString());
     for (auto const& statement :
          QString::fromUtf8(file.readAll()).split(u";\n"_s, Qt::SkipEmptyParts)) {
       execute(statement);

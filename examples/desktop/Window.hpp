@@ -16,9 +16,10 @@ public:
   }
 };
 
-/// Brings the rows beneath an item in line with the entries of a map: a row shows a key, and the cells that are
-/// returned for the entry. A row that stays keeps its indexes, and one that is new takes over those of one that
-/// is gone, as when a bank has been renamed: so a view keeps what is selected and expanded.
+/// Brings the rows beneath an item in line with the entries of a map: a row shows a key, and the
+/// cells that are returned for the entry. A row that stays keeps its indexes, and one that is new
+/// takes over those of one that is gone, as when a bank has been renamed: so a view keeps what is
+/// selected and expanded.
 void updateRows(QStandardItem* parent, auto const& entries, auto const& cells)
 {
   QMap<QString, QStandardItem*> items;

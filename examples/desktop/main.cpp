@@ -1,6 +1,7 @@
 #include "Window.hpp"
 
-// The window's own translation decides on the language of all texts: nobody is to read two at a time.
+// The window's own translation decides on the language of all texts: nobody is to read two at a
+// time.
 static void installTranslators()
 {
   QLocale language;
@@ -19,10 +20,14 @@ int main(int argc, char* argv[])
 {
   QApplication const application(argc, argv);
   installTranslators();
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  parser.addPositionalArgument(u"[FILE]"_s, {});
+  parser.process(application);
   // The library logs names of banks and account numbers, which are nobody else's business.
   QLoggingCategory::defaultCategory()->setEnabled(QtInfoMsg, false);
   try {
-    Window window(QApplication::arguments().value(1));
+    Window window(parser.positionalArguments().value(0));
     window.show();
     return QApplication::exec();
   } catch (std::exception const& error) {

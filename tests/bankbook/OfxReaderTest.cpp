@@ -4,7 +4,8 @@
 #include "Text.hpp"
 #include "support/Testing.hpp"
 
-// The accounts in a file, with their balances and days or with what is wrong, or why the file is refused.
+// The accounts in a file, with their balances and days or with what is wrong, or why the file is
+// refused.
 static QString outcome(QByteArray const& content)
 {
   QStringList accounts;

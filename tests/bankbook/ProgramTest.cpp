@@ -66,9 +66,9 @@ class Session : public TestWithParam<std::string>
 {
 };
 
-// A file has the arguments after "$ ", what is typed after "< ", what is shown after "> ", what is told after
-// "! ", the status after "= ", and variables of the environment after "% ". A ... at the end of a line
-// stands for any rest, and alone in the last one for any lines.
+// A file has the arguments after "$ ", what is typed after "< ", what is shown after "> ", what is
+// told after "! ", the status after "= ", and variables of the environment after "% ". A ... at the
+// end of a line stands for any rest, and alone in the last one for any lines.
 TEST_P(Session, GoesAsExpected)
 {
   auto const name = QString::fromStdString("sessions/" + GetParam() + ".txt");
