@@ -1,4 +1,4 @@
-// The window, and the books, store and session behind it.
+// The window, and what is behind it: books, their database, and undo.
 
 #include "Window.hpp"
 #include "support/Testing.hpp"
