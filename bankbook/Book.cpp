@@ -43,20 +43,19 @@ Bank toBank(Words const& words)
   return Bank(toBankName(words[1]), std::move(accounts), false);
 }
 
-// The identifier in the words from this one on, as statements have it.
+// The identifier in the words from this one on; empty where there are none.
 Identifier toIdentifier(Words const& words, qsizetype first)
 {
-  requireForm(!words.value(first, words[0]).trimmed().isEmpty(), words[0]);
-  return toLine(words.mid(first));
+  auto const parts = words.mid(first).replaceInStrings(QStringLiteral(" "), QString());
+  requireForm(!parts.contains(QString()), words[0]);
+  return parts.join(u' ');
 }
 
-// Whether both may stand for one account: one of them is the other, begins it or is empty.
+// Whether both may stand for one account: one of them begins the other. An empty one may be any.
 bool mayBeOne(Identifier const& one, Identifier const& other)
 {
-  auto const& [shorter, longer] =
-      std::minmax(one, other, [](auto const& a, auto const& b) { return a.size() < b.size(); });
-  return shorter.isEmpty() ||
-         (longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ');
+  return one.isEmpty() || (one + u' ').startsWith(other + u' ') ||
+         (other + u' ').startsWith(one + u' ');
 }
 
 // The account with the number; of the kind `Unknown` if no bank holds it.
@@ -90,16 +89,12 @@ Accounts accountsOf(Book const& book, BankName const& name)
   return book.banks.hasBank(name) ? book.banks.bank(name).accounts() : Accounts();
 }
 
-// Drops what is known of those accounts that are no longer there, and the identifiers of those that
-// have changed their kind.
+// Drops what is known of those accounts that no bank holds any longer.
 void drop(Book& book, Accounts const& before)
 {
   for (auto const& [number, kind] : before) {
-    auto const now = kindOf(book, number);
-    if (now == Unknown) {
+    if (kindOf(book, number) == Unknown) {
       book.balances.remove(number);
-    }
-    if (now != kind) {
       book.identifiers.remove(number);
     }
   }
@@ -118,29 +113,25 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
   return numbers;
 }
 
-// The longer one of the identifier that the account is bound to and this one. Throws where they are
-// of two accounts.
-Identifier longer(Book const& book, AccountNumber const& number, Identifier const& identifier)
+// Binds the account to the identifier, or leaves it bound to a longer one that the identifier
+// begins. Throws where it is bound to another one, or an account of these kinds to this one.
+void bind(Book& book, AccountNumber const& number, Identifier const& identifier,
+          QList<BankAccountTypes> const& kinds)
 {
   auto const bound = book.identifiers.value(number);
   refuseIf(!mayBeOne(bound, identifier),
            Book::tr("The account number %1 is bound to %2; to bind it anew, remove and add it."),
            presentationText(number), bound);
-  return bound.size() > identifier.size() ? bound : identifier;
-}
-
-// Throws where an account other than ours, of one of these kinds, may be bound to the identifier.
-void checkIsFree(Book const& book, AccountNumber const& ours, Identifier const& identifier,
-                 QList<BankAccountTypes> const& kinds)
-{
-  auto others = boundTo(book, identifier, kinds);
-  others.removeOne(ours);
+  auto const longer = bound.size() > identifier.size() ? bound : identifier;
+  auto others = boundTo(book, longer, kinds);
+  others.removeOne(number);
   refuseIf(!others.isEmpty(),
            Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
            presentationText(others.value(0)), book.identifiers.value(others.value(0)));
+  book.identifiers[number] = longer;
 }
 
-// The whole identifier of the account in the file that has this identifier and may be ours.
+// The whole identifier of the one account in the file that may be ours.
 Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& identifier)
 {
   auto const account = ours.accountNumberBankType;
@@ -181,9 +172,7 @@ void add(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toAccountNumber(words[2]);
   auto const kind = toKind(words[3]);
-  Accounts const before{{number, kindOf(book, number)}};
   book.banks.add(toBankName(words[1]), number, kind);
-  drop(book, before);
 }
 
 void addBank(Book& book, Words const& words, Answer& /*answer*/)
@@ -205,9 +194,7 @@ void forget(Book& book, Words const& words, Answer& /*answer*/)
 void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toHeldNumber(book, words[1]);
-  auto const identifier = longer(book, number, toIdentifier(words, 2));
-  checkIsFree(book, number, identifier, {kindOf(book, number)});
-  book.identifiers[number] = identifier;
+  bind(book, number, toIdentifier(words, 2), {kindOf(book, number)});
 }
 
 void list(Book& book, Words const& /*words*/, Answer& answer)
@@ -239,11 +226,7 @@ void open(Book& book, Words const& words, Answer& /*answer*/)
 
 void reconcile(Book& book, Words const& words, Answer& answer)
 {
-  for (qsizetype i = 1; i < words.size(); ++i) {
-    refuseIf((i != 2 && QDate::fromString(words[i], Qt::ISODate).isValid()) ||
-                 (i != 4 && isCurrency(words[i])),
-             Book::tr("'%1' stands in the wrong place: %2"), words[i], usageOf(words[0]));
-  }
+  requireForm(!isCurrency(words[2]) && !isCurrency(words[3]), words[0]);
   auto const number = toHeldNumber(book, words[1]);
   auto const date = toDate(words[2]);
   record(book, find(book, number), {toMoney(words[3], words[4]), date}, answer);
@@ -252,15 +235,11 @@ void reconcile(Book& book, Words const& words, Answer& answer)
 void remove(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const name = toBankName(words[1]);
-  if (words.size() == 2) {
-    auto const before = accountsOf(book, name);
-    book.banks.remove(name);
-    drop(book, before);
-  } else {
-    auto const number = toAccountNumber(words[2]);
-    book.banks.remove(name, number);
-    drop(book, {{number, Goal}}); // or any other kind
-  }
+  auto const isBank = words.size() == 2;
+  auto const gone =
+      isBank ? accountsOf(book, name) : Accounts{{toAccountNumber(words[2]), Unknown}};
+  isBank ? book.banks.remove(name) : book.banks.remove(name, gone.begin()->first);
+  drop(book, gone);
 }
 
 void rename(Book& book, Words const& words, Answer& /*answer*/)
@@ -277,22 +256,24 @@ void statement(Book& book, Words const& words, Answer& answer)
   refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
            Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
-  QList<AccountNumber> numbers;
-  for (auto const& [whole, told] : statements.asKeyValueRange()) {
-    numbers += boundTo(book, whole, told.kinds);
-  }
-  if (!isOfAll) {
-    numbers = {toHeldNumber(book, words[1])};
-  }
-  auto const typed = toIdentifier(words, isOfAll ? 2 : 3);
   auto next = book;
+  QList<AccountNumber> numbers;
+  if (isOfAll) {
+    for (auto const& [whole, told] : statements.asKeyValueRange()) {
+      numbers += boundTo(book, whole, told.kinds);
+    }
+  } else {
+    numbers += toHeldNumber(book, words[1]);
+  }
+  if (words.size() > 3) {
+    bind(next, numbers[0], toIdentifier(words, 3), {kindOf(book, numbers[0])});
+  }
   for (auto const& number : numbers) {
     auto const account = find(book, number);
-    auto const whole = wholeOf(account, statements, longer(book, number, typed));
+    auto const whole = wholeOf(account, statements, next.identifiers.value(number));
     auto const& [kinds, balance, fault] = statements[whole];
-    checkIsFree(book, number, whole, kinds);
     refuseIf(!fault.isEmpty(), fault);
-    next.identifiers[number] = whole;
+    bind(next, number, whole, kinds);
     record(next, account, balance, answer);
     answer.messages +=
         filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),

@@ -31,6 +31,8 @@ QStringList toWords(QString const& line)
     }
     if (line[i] == u'"') {
       inQuotes = !inQuotes;
+      refuseIf(!inQuotes && i + 1 < line.size() && line[i + 1] != u' ',
+               BookError::tr("A blank is missing behind the quote that ends '%1'."), words.last());
     } else if (inWord) {
       auto const pair = QStringView(line).mid(i, 2);
       i += inQuotes && (pair == u"\\\"" || pair == u"\\\\") ? 1 : 0;
@@ -39,19 +41,6 @@ QStringList toWords(QString const& line)
   }
   refuseIf(inQuotes, BookError::tr("A quoted word does not end; close it with a straight quote."));
   return words;
-}
-
-QString toLine(QStringList words)
-{
-  static QRegularExpression const plain(QStringLiteral("^[^ #\"\\\\“”„‟«»]+$"));
-  for (auto& word : words) {
-    word = word.simplified();
-    if (!plain.match(word).hasMatch()) {
-      word.replace(u'\\', QStringLiteral("\\\\")).replace(u'"', QStringLiteral("\\\""));
-      word = u'"' + word + u'"';
-    }
-  }
-  return words.join(u' ');
 }
 
 orv::banking::BankName toBankName(QString const& word)
@@ -76,9 +65,9 @@ orv::banking::BankAccountTypes toKind(QString const& word)
   try {
     return orv::banking::toBankAccountTypes(word);
   } catch (std::logic_error const&) { // whose text is for programmers
-    throw BookError(BookError::tr("'%1' is no kind of account; the kinds are: Chequeing, "
-                                  "\"Credit Card\", Loan, Savings, Goal."),
-                    word);
+    throw BookError(filled(BookError::tr("'%1' is no kind of account; the kinds are: Chequeing, "
+                                         "\"Credit Card\", Loan, Savings, Goal."),
+                           word));
   }
 }
 
@@ -100,17 +89,14 @@ Money toMoney(QString const& amount, QString const& currency)
 {
   static QRegularExpression const form(QStringLiteral("^(-?)([0-9]+)(?:\\.([0-9]+))?$"));
   static QRegularExpression const wrongSign(QStringLiteral("^([+−–(]|--)|[-−–)]$"));
-  static QRegularExpression const separator(
-      QStringLiteral(",[0-9]|['’ ][0-9]{3}|[.,][0-9]{3}[.,]"));
   refuseIf(!isCurrency(currency), BookError::tr("'%1' is not a currency such as CAD."), currency);
   refuseIf(amount.contains(wrongSign),
            BookError::tr("The sign of '%1' is wrong; only what you owe has one, -."), amount);
-  refuseIf(amount.contains(separator),
-           BookError::tr("'%1' has separators; decimals follow a point, and nothing stands between "
-                         "thousands."),
-           amount);
   auto const parts = form.match(amount);
-  refuseIf(!parts.hasMatch(), BookError::tr("'%1' is no amount such as -1250.50."), amount);
+  refuseIf(!parts.hasMatch(),
+           BookError::tr("'%1' is not an amount such as -1250.50, with a point before decimals and "
+                         "nothing between thousands."),
+           amount);
   mintar::Currency const known(currency);
   refuseIf(parts.captured(3).size() > known.decimals(),
            BookError::tr("'%1' has more decimals than %2, which has %3; nothing stands "

@@ -21,12 +21,9 @@ QString toText(QByteArrayView line);
 
 /// Returns the words of a line: blanks separate them, double quotes hold words with blanks
 /// together, and # where a word could begin starts a comment. In quotes, \" and \\ stand for a
-/// quote and a backslash. Throws for a quote that does not end, and for a curly one where a word
-/// begins.
+/// quote and a backslash. Throws for a quote that does not end, or not with its word, and for a
+/// curly one where a word begins.
 QStringList toWords(QString const& line);
-
-/// Returns the words as a line has them, simplified and in quotes where they take them.
-QString toLine(QStringList words);
 
 /// Reads the name of a bank, which may have 100 characters.
 orv::banking::BankName toBankName(QString const& word);

@@ -7,8 +7,6 @@
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
-#include <algorithm>
-#include <string_view>
 #include <utility>
 
 using enum orv::banking::BankAccountTypes;
@@ -16,47 +14,23 @@ using orv::foundation::presentationText; // of a date
 
 namespace {
 
-struct Tag
+// The next tag, past comments, sections, elements like <X/>, and a < that stands for itself; or the
+// start of a comment or a section that does not end.
+QRegularExpressionMatch nextTag(QRegularExpressionMatchIterator& parts)
 {
-  QString name; // in capital letters, without a namespace; empty where there is no tag any more
-  bool isEnd = false;
-  std::size_t begin = std::string_view::npos;
-  std::size_t end = std::string_view::npos;
-};
-
-// The first tag from a place on, past comments, sections, elements like <X/>, and a < that stands
-// for itself.
-Tag nextTag(std::string_view content, std::size_t from)
-{
-  static QRegularExpression const form(
-      QStringLiteral("^<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+(?<!/)>$"),
-      QRegularExpression::CaseInsensitiveOption);
-  for (auto at = content.find('<', from); at < content.size(); at = content.find('<', from)) {
-    auto const rest = content.substr(at);
-    auto const isComment = rest.starts_with("<!--");
-    if (isComment || rest.starts_with("<![")) {
-      auto const end = rest.find(isComment ? "-->" : "]]>");
-      if (end >= std::min(rest.find(rest.substr(0, 3), 3), rest.size())) {
-        break; // It does not end, or only where another does that begins in it.
-      }
-      from = at + end + 3;
-      continue;
-    }
-    auto const tag = rest.substr(0, rest.find_first_of("<>", 1) + 1);
-    auto const match = form.match(QString::fromLatin1(QByteArrayView(tag)));
-    if (match.hasMatch()) {
-      return {match.captured(2).toUpper(), match.capturedLength(1) > 0, at, at + tag.size()};
-    }
-    from = at + 1;
-  }
-  return {};
+  QRegularExpressionMatch part;
+  do {
+    part = parts.hasNext() ? parts.next() : QRegularExpressionMatch();
+  } while (part.hasMatch() && part.capturedLength(2) == 0);
+  return part;
 }
 
-QString toValue(std::string_view bytes)
+QString toValue(QStringView latin1)
 {
+  auto const bytes = latin1.toLatin1();
   QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  QString text = decode(QByteArrayView(bytes));
-  text = decode.hasError() ? QString::fromLatin1(QByteArrayView(bytes)) : text;
+  QString text = decode(bytes);
+  text = decode.hasError() ? latin1.toString() : text;
   text.replace("&nbsp;", " ");
   QXmlStreamReader xml("<v>" + text + "</v>");
   xml.readNextStartElement();
@@ -92,11 +66,6 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
   static QRegularExpression const dateForm(QStringLiteral("^([0-9]{8})(?:[0-9]{2}){0,3}(?![0-9])"));
   checkStatus(values);
   toPlain(QStringList(values.values()).join(u' '));
-  for (QString const element :
-       {"ACCTID", "ACCTTYPE", "CURDEF", "LEDGERBAL/BALAMT", "LEDGERBAL/DTASOF"}) {
-    refuseIf(values[element].isEmpty(), BookError::tr("The statement has no %1."), element);
-  }
-  auto const unreadable = BookError::tr("The statement's %1 '%2' cannot be read.");
   mintar::Currency const currency(values["CURDEF"]);
   auto const amount = amountForm.match(values["LEDGERBAL/BALAMT"]);
   refuseIf(amount.captured(3).size() == 3 && currency.decimals() != 3,
@@ -105,10 +74,15 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
   auto const balance = amount.hasMatch() ? exactMoney(amount, currency) : std::nullopt;
   auto const digits = dateForm.match(values["LEDGERBAL/DTASOF"]).captured(1);
   auto const day = QDate::fromString(digits, "yyyyMMdd");
-  refuseIf(!isCurrency(currency.isoCode()), unreadable, "CURDEF", currency.isoCode());
-  refuseIf(!balance, unreadable, "BALAMT", values["LEDGERBAL/BALAMT"]);
-  refuseIf(!day.isValid(), unreadable, "DTASOF", values["LEDGERBAL/DTASOF"]);
-  refuseIf(!kindsOfTypes.contains(values["ACCTTYPE"]), unreadable, "ACCTTYPE", values["ACCTTYPE"]);
+  auto const require = [&](QString const& element, bool isReadable) {
+    refuseIf(!isReadable, BookError::tr("The statement's %1 cannot be read: '%2'."), element,
+             values[element]);
+  };
+  require("ACCTID", !values["ACCTID"].isEmpty());
+  require("ACCTTYPE", kindsOfTypes.contains(values["ACCTTYPE"]));
+  require("CURDEF", isCurrency(currency.isoCode()));
+  require("LEDGERBAL/BALAMT", balance.has_value());
+  require("LEDGERBAL/DTASOF", day.isValid());
   return {*balance, day};
 }
 
@@ -116,6 +90,12 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
 
 Statements readOfx(QByteArray const& bytes)
 {
+  // A comment or a section ends before another one begins; a tag may have a namespace.
+  static QRegularExpression const form(
+      QStringLiteral("<!--(?:(?!-->|<!--).)*+-->|<!\\[(?:(?!\\]\\]>|<!\\[).)*+\\]\\]>|(?|"
+                     "<(/?)(?:[A-Z][^\\s/:<>]*+:)?+([A-Z][^\\s/<>]*+)[^<>]*+(?<!/)>|"
+                     "<()(!--|!\\[))"),
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
   // The elements that hold others, whose tags tell whether the file is whole. All others are
   // values: in SGML they may do without end tags, and some banks mistype them.
   static QRegularExpression const holder(QStringLiteral(
@@ -134,17 +114,23 @@ Statements readOfx(QByteArray const& bytes)
   QString open;       // the value before the tag, if no other tag stands between
   bool isOfx = false;
   bool isDamaged = false;
-  std::string_view const content(bytes.data(), static_cast<std::size_t>(bytes.size()));
-  for (auto tag = nextTag(content, 0), next = tag; !tag.name.isEmpty() && !isDamaged; tag = next) {
-    next = nextTag(content, tag.end);
-    auto const text = content.substr(tag.end, next.begin - tag.end);
-    auto const step = tag.name + u'/';
-    auto const value = wanted.match(path + tag.name).captured(1);
+  auto const content = QString::fromLatin1(bytes);
+  auto parts = form.globalMatch(content);
+  for (auto tag = nextTag(parts), next = tag; tag.hasMatch() && !isDamaged; tag = next) {
+    next = nextTag(parts);
+    auto const end = tag.capturedEnd();
+    auto const text = QStringView(content).mid(end, next.capturedStart() - end);
+    auto const name = tag.captured(2).toUpper();
+    auto const isEnd = tag.capturedLength(1) > 0;
+    auto const step = name + u'/';
+    auto const value = wanted.match(path + name).captured(1);
     auto const before = std::exchange(open, QString());
-    if (holder.match(tag.name).hasMatch() && tag.isEnd) {
+    if (name.startsWith(u'!')) {
+      isDamaged = true;
+    } else if (holder.match(name).hasMatch() && isEnd) {
       isDamaged = !path.endsWith(u'/' + step);
       path.chop(step.size());
-    } else if (holder.match(tag.name).hasMatch()) {
+    } else if (holder.match(name).hasMatch()) {
       auto const isStatement = step.endsWith(u"STMTRS/");
       // No whole file is deeper: in one that is, each step would take longer than the last.
       isDamaged = path.size() > 200 || (isStatement && path.contains("STMTRS/")) ||
@@ -152,19 +138,19 @@ Statements readOfx(QByteArray const& bytes)
       path += step;
       if (isStatement && path.startsWith(u"/OFX/")) {
         statements += status;
-        if (tag.name != u"STMTRS") {
-          statements.last()["ACCTTYPE"] = tag.name == u"CCSTMTRS" ? "CREDITCARD" : "INVESTMENT";
+        if (name != u"STMTRS") {
+          statements.last()["ACCTTYPE"] = name == u"CCSTMTRS" ? "CREDITCARD" : "INVESTMENT";
         }
-      } else if (tag.name == u"STATUS") {
+      } else if (name == u"STATUS") {
         status.clear();
       }
-    } else if (!value.isEmpty() && !tag.isEnd) {
+    } else if (!value.isEmpty() && !isEnd) {
       auto& values = path.endsWith(u"/STATUS/") ? status : statements.last();
       isDamaged = values.contains(value); // What is said twice is damaged.
       values[value] = value == u"ACCTTYPE" ? toValue(text).toUpper() : toValue(text);
-      open = tag.name;
+      open = name;
     } else if (!value.isEmpty() || !before.isEmpty() || narrow.match(path).hasMatch()) {
-      isDamaged = (!value.isEmpty() && before != tag.name) || !toValue(text).isEmpty();
+      isDamaged = (!value.isEmpty() && before != name) || !toValue(text).isEmpty();
     }
   }
   refuseIf(isDamaged || path != u"/",
@@ -177,11 +163,11 @@ Statements readOfx(QByteArray const& bytes)
                          "not as PDF, CSV or QIF."));
   Statements result;
   for (auto const& values : statements) {
-    auto const type = values["ACCTTYPE"];
-    auto const isCard = type == u"CREDITCARD" && values["BANKID"].isEmpty();
-    QStringList const whole{values["ACCTID"], type, values["BANKID"]};
-    auto& [kinds, latest, fault] = result[toLine(isCard ? whole.mid(0, 2) : whole)];
-    kinds = kindsOfTypes.value(type, {Chequeing, CreditCard, Loan, Savings, Goal});
+    QStringList whole{values["ACCTID"], values["ACCTTYPE"], values["BANKID"]};
+    static QRegularExpression const empty(QStringLiteral("^$"));
+    whole.replaceInStrings(QStringLiteral(" "), QString()).replaceInStrings(empty, "-");
+    auto& [kinds, latest, fault] = result[whole.join(u' ')];
+    kinds = kindsOfTypes.value(whole[1], {Chequeing, CreditCard, Loan, Savings, Goal});
     try {
       auto const next = toBalance(values);
       refuseIf(next.occurredOn == latest.occurredOn && !(next.balance == latest.balance),

@@ -14,9 +14,12 @@ QString shown(QStringList const& values);
 /// Returns a translated text in which the values, as messages show them, take the places of %1, %2,
 /// ….
 template <typename... Values>
-QString filled(QString const& text, Values const&... values)
+QString filled(QString text, Values const&... values)
 {
-  return text.arg(shown(values)...);
+  if constexpr (sizeof...(values) > 0) {
+    text = text.arg(shown(values)...);
+  }
+  return text;
 }
 
 /// An error of whoever wrote a line, or of a file that it names. `what()` is for the user,
@@ -27,12 +30,6 @@ class BookError : public orv::foundation::Error
 
 public:
   explicit BookError(QString const& text) : Error(text, std::exception()) {}
-
-  /// Creates an error with the text that `filled` returns.
-  template <typename... Values>
-  BookError(QString const& text, Values const&... values) : BookError(filled(text, values...))
-  {
-  }
 };
 
 /// Throws `BookError`, with the text that `filled` returns, if something is so.
@@ -40,7 +37,7 @@ template <typename... Values>
 void refuseIf(bool isSo, QString const& text, Values const&... values)
 {
   if (isSo) {
-    throw BookError(text, values...);
+    throw BookError(filled(text, values...));
   }
 }
 

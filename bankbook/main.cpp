@@ -39,21 +39,15 @@ int show(QString const& text)
 // Only why a file cannot be read may be in the system's.
 void installTranslators()
 {
-  QDir share(QCoreApplication::applicationDirPath());
-  if (!share.cd(BANKBOOK_DATA "/bankbook/translations")) { // which is not installed, but just built
-    share.cd("../share/bankbook/translations");
-  }
-  auto* const own = new QTranslator(QCoreApplication::instance());
-  if (!own->load(QLocale(), "bankbook", "_", share.path()) || own->language().isEmpty()) {
-    return;
-  }
-  QCoreApplication::installTranslator(own);
-  for (auto const& name : {share.filePath(LIBRARY_TRANSLATIONS) + "/orv-banking_",
-                           QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase_"}) {
-    auto* const other = new QTranslator(QCoreApplication::instance());
-    if (other->load(name + own->language())) {
-      QCoreApplication::installTranslator(other);
+  QLocale language;
+  for (auto const& file : {QString(":/i18n/bankbook"), QString(":/i18n/orv-banking"),
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath) + "/qtbase"}) {
+    auto* const translator = new QTranslator(QCoreApplication::instance());
+    if (!translator->load(language, file, "_")) {
+      return;
     }
+    QCoreApplication::installTranslator(translator);
+    language = QLocale(translator->language());
   }
 }
 

@@ -124,10 +124,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; stands in the wrong place: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>add NAME NUMBER KIND</source>
         <translation type="unfinished"></translation>
     </message>
@@ -226,10 +222,6 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The statement has no %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file has no statement of a bank account or a credit card.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -270,10 +262,6 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a currency such as CAD.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -291,10 +279,6 @@ quote, \\ a backslash. # begins a comment.
     </message>
     <message>
         <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -318,7 +302,15 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
+        <source>A blank is missing behind the quote that ends &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50, with a point before decimals and nothing between thousands.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 cannot be read: &apos;%2&apos;.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Show texts, amounts and dates as in this locale.</source>
-        <translation>Zeigt Texte, Beträge und Daten wie in diesem Gebietsschema an.</translation>
+        <translation>Zeigt Texte, Beträge und Datumsangaben wie in diesem Gebietsschema an.</translation>
     </message>
     <message>
         <source>Keeps a household&apos;s books, one command a line:</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>%1 of %2 lines were refused.</source>
-        <translation>%1 von %2 Zeilen wurden abgelehnt.</translation>
+        <translation>Abgelehnte Zeilen: %1 von %2.</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
@@ -122,10 +122,6 @@
     <message>
         <source>%1 To take back the last date of the account number %2: forget %2</source>
         <translation>%1 Um das letzte Datum des Kontos mit der Nummer %2 zurückzunehmen: forget %2</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands in the wrong place: %2</source>
-        <translation>„%1“ steht an der falschen Stelle: %2</translation>
     </message>
     <message>
         <source>add NAME NUMBER KIND</source>
@@ -235,10 +231,6 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
         <translation>„%1“ ist kein Datum der Form 2026-01-31.</translation>
     </message>
     <message>
-        <source>The statement has no %1.</source>
-        <translation>Im Auszug fehlt das Feld %1.</translation>
-    </message>
-    <message>
         <source>The file has no statement of a bank account or a credit card.</source>
         <translation>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
@@ -279,16 +271,12 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
         <translation>Das Vorzeichen von „%1“ ist falsch; nur Schulden haben eines, -.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
-        <translation>„%1“ ist kein Betrag wie -1250.50 (Dezimaltrennzeichen: Punkt).</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a currency such as CAD.</source>
         <translation>„%1“ ist keine Währung wie EUR.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more decimals than %2, which has %3; nothing stands between thousands.</source>
-        <translation>„%1“ hat mehr Dezimalstellen als %2, nämlich mehr als %3; Tausendertrennzeichen gibt es nicht.</translation>
+        <translation>„%1“ hat mehr Dezimalstellen, als %2 hat (%3); Tausendertrennzeichen gibt es nicht.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is too large.</source>
@@ -301,10 +289,6 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
     <message>
         <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
         <translation>Das Feld BALAMT des Auszugs hat drei Dezimalstellen oder ein Tausendertrennzeichen: „%1“.</translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation>Das Feld %1 des Auszugs ist unlesbar: „%2“.</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -327,8 +311,16 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
         <translation>Die Datei enthält zwei Salden vom %1: %2 und %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
-        <translation>„%1“ enthält andere Trennzeichen; das Dezimaltrennzeichen ist ein Punkt, und Tausendertrennzeichen gibt es nicht.</translation>
+        <source>A blank is missing behind the quote that ends &apos;%1&apos;.</source>
+        <translation>Nach dem Anführungszeichen, mit dem „%1“ endet, fehlt ein Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50, with a point before decimals and nothing between thousands.</source>
+        <translation>„%1“ ist kein Betrag wie -1250.50, mit einem Punkt vor den Dezimalstellen und ohne Tausendertrennzeichen.</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 cannot be read: &apos;%2&apos;.</source>
+        <translation>Das Feld %1 des Auszugs ist nicht lesbar: „%2“.</translation>
     </message>
 </context>
 </TS>

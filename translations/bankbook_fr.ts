@@ -124,10 +124,6 @@
         <translation>%1 Pour annuler la dernière date du compte numéro %2&#xa0;: forget %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; stands in the wrong place: %2</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas à sa place&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>add NAME NUMBER KIND</source>
         <translation>add NOM NUMÉRO TYPE</translation>
     </message>
@@ -235,10 +231,6 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
         <translation>«&#xa0;%1&#xa0;» n’est pas une date de la forme 2026-01-31.</translation>
     </message>
     <message>
-        <source>The statement has no %1.</source>
-        <translation>Le champ %1 est absent du relevé.</translation>
-    </message>
-    <message>
         <source>The file has no statement of a bank account or a credit card.</source>
         <translation>Le fichier ne contient aucun relevé de compte bancaire ou de carte de crédit.</translation>
     </message>
@@ -279,10 +271,6 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
         <translation>Le signe de «&#xa0;%1&#xa0;» est incorrect; seul ce que vous devez en a un, -.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no amount such as -1250.50.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un montant comme -1250.50 (séparateur décimal&#xa0;: point).</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a currency such as CAD.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas une devise comme CAD.</translation>
     </message>
@@ -301,10 +289,6 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
     <message>
         <source>The statement&apos;s BALAMT &apos;%1&apos; has three decimals, or thousands.</source>
         <translation>Le champ BALAMT du relevé a trois décimales, ou un séparateur de milliers&#xa0;: «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>The statement&apos;s %1 &apos;%2&apos; cannot be read.</source>
-        <translation>Le champ %1 du relevé est illisible&#xa0;: «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The file is empty.</source>
@@ -327,8 +311,16 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
         <translation>Le fichier contient deux soldes du %1&#xa0;: %2 et %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has separators; decimals follow a point, and nothing stands between thousands.</source>
-        <translation>«&#xa0;%1&#xa0;» contient des séparateurs; le séparateur décimal est un point, et rien ne sépare les milliers.</translation>
+        <source>A blank is missing behind the quote that ends &apos;%1&apos;.</source>
+        <translation>Il manque une espace après le guillemet qui termine «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount such as -1250.50, with a point before decimals and nothing between thousands.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant tel que -1250.50, avec un point avant les décimales et rien entre les milliers.</translation>
+    </message>
+    <message>
+        <source>The statement&apos;s %1 cannot be read: &apos;%2&apos;.</source>
+        <translation>Le champ %1 du relevé est illisible&#xa0;: «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 </TS>
