@@ -70,7 +70,7 @@ QJsonValue member(QJsonValue const& object, QString const& name, QJsonValue::Typ
 {
   auto const value = object.toObject()[name];
   if (value.type() != type) {
-    throw LoadError(QString("The file has no '%1' where one belongs, or a wrong one.").arg(name));
+    throw LoadError(QString("'%1' is missing, or has the wrong type.").arg(name));
   }
   return value;
 }
@@ -210,7 +210,7 @@ int main()
   show("garbage");
   // prints: The file is damaged, or holds no books.
   show(R"({"bank": []})");
-  // prints: The file has no 'banks' where one belongs, or a wrong one.
+  // prints: 'banks' is missing, or has the wrong type.
   show(QByteArray(json).replace("2026-10-31", "2026-13-31"));
   // prints: '2026-13-31' is not a date.
   show(QByteArray(json).replace("200", "100"));

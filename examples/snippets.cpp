@@ -181,7 +181,7 @@ void renameInStep()
 void french()
 {
   //! [Translator]
-  QLocale::setDefault(QLocale("fr_CA")); // only where it is not to be the system's
+  QLocale::setDefault(QLocale("fr_CA")); // only to override the system's locale
   QTranslator translator;                // must exist as long as it is installed
   auto const folder = QCoreApplication::applicationDirPath() + "/../share/orv-banking/translations";
   if (translator.load(QLocale(), "orv-banking", "_", folder)) {
