@@ -100,7 +100,7 @@ void drop(Book& book, Accounts const& before)
   }
 }
 
-// The accounts of ours of these kinds that may be bound to the identifier.
+// Our accounts of these kinds that may be bound to the identifier.
 QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
                              QList<BankAccountTypes> const& kinds)
 {
@@ -114,20 +114,27 @@ QList<AccountNumber> boundTo(Book const& book, Identifier const& identifier,
 }
 
 // Binds the account to the identifier, or leaves it bound to a longer one that the identifier
-// begins. Throws where it is bound to another one, or an account of these kinds to this one.
-void bind(Book& book, AccountNumber const& number, Identifier const& identifier,
-          QList<BankAccountTypes> const& kinds)
+// begins. Throws where its kind or another account is against it.
+void bind(Book& book, AccountNumber const& number, Identifier const& identifier)
 {
+  auto const account = find(book, number).accountNumberBankType;
   auto const bound = book.identifiers.value(number);
   refuseIf(!mayBeOne(bound, identifier),
            Book::tr("The account number %1 is bound to %2; to bind it anew, remove and add it."),
            presentationText(number), bound);
   auto const longer = bound.size() > identifier.size() ? bound : identifier;
+  auto const hasType = longer.contains(u' ');
+  auto const kinds = hasType ? kindsOf(longer) : QList{account.bankAccountType};
+  refuseIf(!kinds.contains(account.bankAccountType),
+           Book::tr("%1 cannot be bound to %2: its kind does not go with the ACCTTYPE."),
+           presentationText(account, Yes), longer);
   auto others = boundTo(book, longer, kinds);
   others.removeOne(number);
-  refuseIf(!others.isEmpty(),
-           Book::tr("The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID."),
-           presentationText(others.value(0)), book.identifiers.value(others.value(0)));
+  refuseIf(
+      !others.isEmpty(),
+      Book::tr("The account number %1 is bound to %2, which may be the same account. Bind both "
+               "with ACCTID, ACCTTYPE and BANKID."),
+      presentationText(others.value(0)), book.identifiers.value(others.value(0)));
   book.identifiers[number] = longer;
 }
 
@@ -135,14 +142,17 @@ void bind(Book& book, AccountNumber const& number, Identifier const& identifier,
 Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier const& identifier)
 {
   auto const account = ours.accountNumberBankType;
+  auto const name = (presentationText(account, Yes) + u' ' + identifier).trimmed();
   auto found = file.keys();
   found.removeIf([&](Identifier const& whole) {
-    return !mayBeOne(identifier, whole) || !file[whole].kinds.contains(account.bankAccountType);
+    return !mayBeOne(identifier, whole) || !kindsOf(whole).contains(account.bankAccountType);
   });
-  refuseIf(found.isEmpty(), Book::tr("The file has no statement for %1; it has: %2."),
-           (presentationText(account, Yes) + u' ' + identifier).trimmed(), file.keys());
+  refuseIf(found.isEmpty(), Book::tr("The file has no statement that %1 could take; it has: %2."),
+           name, file.keys());
   refuseIf(found.size() > 1,
-           Book::tr("The file has several such accounts; add one at the end: %1."), found);
+           Book::tr("The file has several statements that %1 could take; choose one with the "
+                    "command identifier: %2."),
+           name, found);
   return found[0];
 }
 
@@ -153,13 +163,13 @@ void record(Book& book, BankAccount const& account, ReconciledBalance const& nex
   auto const shownNumber = presentationText(number);
   auto const last = book.balances.value(number, next); // the first is of any day and currency
   refuseIf(!(last.balance.currency() == next.balance.currency()),
-           Book::tr("The account number %1 is kept in %2, not in %3. To take it back: forget %1"),
+           Book::tr("The account number %1 is kept in %2, not in %3. If that was wrong: forget %1"),
            shownNumber, last.balance.currency().isoCode(), next.balance.currency().isoCode());
   try {
     ReconciledBankAccount(account, last.balance, last.occurredOn)
         .reconcile(next.occurredOn, next.balance);
   } catch (BankError const& refusal) {
-    auto const text = Book::tr("%1 To take back the last date of the account number %2: forget %2");
+    auto const text = Book::tr("%1 If the last date was wrong: forget %2");
     throw BookError(text.arg(QString::fromUtf8(refusal.what()), shownNumber));
   }
   book.balances[number] = next;
@@ -194,7 +204,7 @@ void forget(Book& book, Words const& words, Answer& /*answer*/)
 void identify(Book& book, Words const& words, Answer& /*answer*/)
 {
   auto const number = toHeldNumber(book, words[1]);
-  bind(book, number, toIdentifier(words, 2), {kindOf(book, number)});
+  bind(book, number, toIdentifier(words, 2));
 }
 
 void list(Book& book, Words const& /*words*/, Answer& answer)
@@ -250,30 +260,30 @@ void rename(Book& book, Words const& words, Answer& /*answer*/)
 void statement(Book& book, Words const& words, Answer& answer)
 {
   auto const isOfAll = words.size() == 2;
+  auto next = book;
+  QList<AccountNumber> numbers;
+  if (!isOfAll) {
+    numbers += toHeldNumber(book, words[1]);
+  }
+  if (words.size() > 3) {
+    bind(next, numbers[0], toIdentifier(words, 3));
+  }
   auto const& fileName = words[isOfAll ? 1 : 2];
   QFile file(pathOf(book.folder, fileName));
   QFileInfo const info(file);
   refuseIf(info.exists() && !info.isFile() && !info.isDir(), // a device, which may have no end
            Book::tr("%1 is not a file."), fileName);
   auto const statements = readOfx(contentOf(file, fileName));
-  auto next = book;
-  QList<AccountNumber> numbers;
-  if (isOfAll) {
-    for (auto const& [whole, told] : statements.asKeyValueRange()) {
-      numbers += boundTo(book, whole, told.kinds);
-    }
-  } else {
-    numbers += toHeldNumber(book, words[1]);
-  }
-  if (words.size() > 3) {
-    bind(next, numbers[0], toIdentifier(words, 3), {kindOf(book, numbers[0])});
+  auto others = statements.keys();
+  for (auto const& whole : isOfAll ? others : QStringList()) {
+    numbers += boundTo(book, whole, kindsOf(whole));
   }
   for (auto const& number : numbers) {
     auto const account = find(book, number);
     auto const whole = wholeOf(account, statements, next.identifiers.value(number));
-    auto const& [kinds, balance, fault] = statements[whole];
+    auto const& [balance, fault] = statements[whole];
     refuseIf(!fault.isEmpty(), fault);
-    bind(next, number, whole, kinds);
+    bind(next, number, whole);
     record(next, account, balance, answer);
     answer.messages +=
         filled(Book::tr("%1: took the statement of %2, dated %3, with a balance of %4."),
@@ -282,9 +292,8 @@ void statement(Book& book, Words const& words, Answer& answer)
   }
   book = next; // Either all is taken, or nothing.
 
-  auto others = statements.keys();
   others.removeIf(
-      [&](auto const& whole) { return !boundTo(book, whole, statements[whole].kinds).isEmpty(); });
+      [&](auto const& whole) { return !boundTo(book, whole, kindsOf(whole)).isEmpty(); });
   auto const text =
       Book::tr("No account is bound to %1. Bind one: statement NUMBER FILE IDENTIFIER");
   refuseIf(numbers.isEmpty(), text, others);

@@ -43,13 +43,6 @@ QString toValue(QStringView latin1)
 // LEDGERBAL/BALAMT.
 using Values = QMap<QString, QString>;
 
-// What the bank's type of an account stands for. A goal is money set aside.
-QMap<QString, QList<orv::banking::BankAccountTypes>> const kindsOfTypes{
-    {"CHECKING", {Chequeing}},    {"SAVINGS", {Savings, Goal}}, {"MONEYMRKT", {Savings, Goal}},
-    {"CD", {Savings, Goal}},      {"CREDITLINE", {Loan}},       {"CMA", {Chequeing, Savings, Goal}},
-    {"CREDITCARD", {CreditCard}}, {"INVESTMENT", {}},
-};
-
 // Throws where the bank reports an error.
 void checkStatus(Values const& values)
 {
@@ -79,7 +72,6 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
              values[element]);
   };
   require("ACCTID", !values["ACCTID"].isEmpty());
-  require("ACCTTYPE", kindsOfTypes.contains(values["ACCTTYPE"]));
   require("CURDEF", isCurrency(currency.isoCode()));
   require("LEDGERBAL/BALAMT", balance.has_value());
   require("LEDGERBAL/DTASOF", day.isValid());
@@ -87,6 +79,17 @@ orv::banking::ReconciledBalance toBalance(Values const& values)
 }
 
 } // namespace
+
+QList<orv::banking::BankAccountTypes> kindsOf(Identifier const& identifier)
+{
+  // A goal is money set aside.
+  static QMap<QString, QList<orv::banking::BankAccountTypes>> const kinds{
+      {"CHECKING", {Chequeing}},           {"SAVINGS", {Savings, Goal}}, {"CREDITLINE", {Loan}},
+      {"MONEYMRKT", {Savings, Goal}},      {"CREDITCARD", {CreditCard}}, {"CD", {Savings, Goal}},
+      {"CMA", {Chequeing, Savings, Goal}},
+  };
+  return kinds.value(identifier.section(u' ', 1, 1));
+}
 
 Statements readOfx(QByteArray const& bytes)
 {
@@ -166,8 +169,7 @@ Statements readOfx(QByteArray const& bytes)
     QStringList whole{values["ACCTID"], values["ACCTTYPE"], values["BANKID"]};
     static QRegularExpression const empty(QStringLiteral("^$"));
     whole.replaceInStrings(QStringLiteral(" "), QString()).replaceInStrings(empty, "-");
-    auto& [kinds, latest, fault] = result[whole.join(u' ')];
-    kinds = kindsOfTypes.value(whole[1], {Chequeing, CreditCard, Loan, Savings, Goal});
+    auto& [latest, fault] = result[whole.join(u' ')];
     try {
       auto const next = toBalance(values);
       refuseIf(next.occurredOn == latest.occurredOn && !(next.balance == latest.balance),

@@ -6,15 +6,17 @@
 #include <QMap>
 #include <QString>
 
-/// What a bank calls an account, as it is typed in a line: its ACCTID, its type and, unless it is a
-/// credit card, its BANKID, which may be "". The first, or the first two, stand for every account
-/// that has them.
+/// What a bank calls an account: its ACCTID, its type and its BANKID, parted by blanks, with - for
+/// one that is missing. The first, or the first two, stand for every account that has them.
 using Identifier = QString;
+
+/// Returns the kinds of account that the type in an identifier may stand for; none if it has no type
+/// or an unknown one.
+QList<orv::banking::BankAccountTypes> kindsOf(Identifier const& identifier);
 
 /// What a bank's statements say of an account: the balance of the latest day.
 struct Statement
 {
-  QList<orv::banking::BankAccountTypes> kinds; ///< that the bank's type may stand for
   orv::banking::ReconciledBalance balance;
   QString fault; ///< why it cannot be taken, for the user; empty if it can
 };

@@ -112,18 +112,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file has several such accounts; add one at the end: %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file has no statement for %1; it has: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 To take back the last date of the account number %2: forget %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>add NAME NUMBER KIND</source>
         <translation type="unfinished"></translation>
     </message>
@@ -207,11 +195,27 @@ quote, \\ a backslash. # begins a comment.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
+        <source>%1 cannot be bound to %2: its kind does not go with the ACCTTYPE.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
+        <source>The account number %1 is bound to %2, which may be the same account. Bind both with ACCTID, ACCTTYPE and BANKID.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no statement that %1 could take; it has: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has several statements that %1 could take; choose one with the command identifier: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. If that was wrong: forget %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 If the last date was wrong: forget %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

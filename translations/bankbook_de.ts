@@ -112,18 +112,6 @@
         <translation>Der Befehl lautet: %1. Wörter mit Leerzeichen stehen in geraden Anführungszeichen.</translation>
     </message>
     <message>
-        <source>The file has several such accounts; add one at the end: %1.</source>
-        <translation>Die Datei hat mehrere solche Konten; fügen Sie am Ende eines hinzu: %1.</translation>
-    </message>
-    <message>
-        <source>The file has no statement for %1; it has: %2.</source>
-        <translation>Die Datei enthält keinen Auszug für %1, sondern: %2.</translation>
-    </message>
-    <message>
-        <source>%1 To take back the last date of the account number %2: forget %2</source>
-        <translation>%1 Um das letzte Datum des Kontos mit der Nummer %2 zurückzunehmen: forget %2</translation>
-    </message>
-    <message>
         <source>add NAME NUMBER KIND</source>
         <translation>add NAME NUMMER ART</translation>
     </message>
@@ -216,12 +204,28 @@ darin ist \&quot; ein Anführungszeichen und \\ ein umgekehrter Schrägstrich. #
         <translation>Die Kontonummer %1 ist an %2 gebunden; um sie neu zu binden, entfernen Sie sie und fügen Sie sie neu hinzu.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
-        <translation>Die Kontonummer %1 ist an %2 gebunden; für ein anderes Konto geben Sie auch ACCTTYPE und BANKID an.</translation>
+        <source>%1 cannot be bound to %2: its kind does not go with the ACCTTYPE.</source>
+        <translation>%1 kann nicht an %2 gebunden werden: Die Art passt nicht zum ACCTTYPE.</translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
-        <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3; um das zurückzunehmen: forget %1</translation>
+        <source>The account number %1 is bound to %2, which may be the same account. Bind both with ACCTID, ACCTTYPE and BANKID.</source>
+        <translation>Die Kontonummer %1 ist an %2 gebunden; das kann dasselbe Konto sein. Binden Sie beide mit ACCTID, ACCTTYPE und BANKID.</translation>
+    </message>
+    <message>
+        <source>The file has no statement that %1 could take; it has: %2.</source>
+        <translation>Die Datei enthält keinen Auszug, den %1 übernehmen könnte, sondern: %2.</translation>
+    </message>
+    <message>
+        <source>The file has several statements that %1 could take; choose one with the command identifier: %2.</source>
+        <translation>Die Datei enthält mehrere Auszüge, die %1 übernehmen könnte; wählen Sie einen mit dem Befehl identifier: %2.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. If that was wrong: forget %1</source>
+        <translation>Das Konto mit der Nummer %1 wird in %2 geführt, nicht in %3. War das falsch: forget %1</translation>
+    </message>
+    <message>
+        <source>%1 If the last date was wrong: forget %2</source>
+        <translation>%1 War das letzte Datum falsch: forget %2</translation>
     </message>
 </context>
 <context>

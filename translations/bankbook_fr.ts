@@ -112,18 +112,6 @@
         <translation>La commande s’écrit&#xa0;: %1. Les mots avec des espaces se mettent entre guillemets droits.</translation>
     </message>
     <message>
-        <source>The file has several such accounts; add one at the end: %1.</source>
-        <translation>Le fichier a plusieurs comptes de ce type; ajoutez-en un à la fin&#xa0;: %1.</translation>
-    </message>
-    <message>
-        <source>The file has no statement for %1; it has: %2.</source>
-        <translation>Le fichier ne contient pas de relevé pour %1, mais&#xa0;: %2.</translation>
-    </message>
-    <message>
-        <source>%1 To take back the last date of the account number %2: forget %2</source>
-        <translation>%1 Pour annuler la dernière date du compte numéro %2&#xa0;: forget %2</translation>
-    </message>
-    <message>
         <source>add NAME NUMBER KIND</source>
         <translation>add NOM NUMÉRO TYPE</translation>
     </message>
@@ -216,12 +204,28 @@ l’intérieur, \&quot; est un guillemet et \\ une barre oblique inverse. # comm
         <translation>Le numéro de compte %1 est lié à %2; pour le lier autrement, retirez-le et ajoutez-le de nouveau.</translation>
     </message>
     <message>
-        <source>The account number %1 is bound to %2; for another, add ACCTTYPE and BANKID.</source>
-        <translation>Le numéro de compte %1 est lié à %2; pour un autre compte, ajoutez ACCTTYPE et BANKID.</translation>
+        <source>%1 cannot be bound to %2: its kind does not go with the ACCTTYPE.</source>
+        <translation>%1 ne peut pas être lié à %2&#xa0;: son type ne correspond pas à l’ACCTTYPE.</translation>
     </message>
     <message>
-        <source>The account number %1 is kept in %2, not in %3. To take it back: forget %1</source>
-        <translation>Le compte numéro %1 est tenu en %2, pas en %3; pour l’annuler&#xa0;: forget %1</translation>
+        <source>The account number %1 is bound to %2, which may be the same account. Bind both with ACCTID, ACCTTYPE and BANKID.</source>
+        <translation>Le numéro de compte %1 est lié à %2, qui est peut-être le même compte. Liez les deux avec ACCTID, ACCTTYPE et BANKID.</translation>
+    </message>
+    <message>
+        <source>The file has no statement that %1 could take; it has: %2.</source>
+        <translation>Le fichier n’a aucun relevé pour %1, mais&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The file has several statements that %1 could take; choose one with the command identifier: %2.</source>
+        <translation>Le fichier a plusieurs relevés pour %1&#xa0;; choisissez-en un avec la commande identifier&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The account number %1 is kept in %2, not in %3. If that was wrong: forget %1</source>
+        <translation>Le compte numéro %1 est tenu en %2, et non en %3. Si c’était faux&#xa0;: forget %1</translation>
+    </message>
+    <message>
+        <source>%1 If the last date was wrong: forget %2</source>
+        <translation>%1 Si la dernière date était fausse&#xa0;: forget %2</translation>
     </message>
 </context>
 <context>

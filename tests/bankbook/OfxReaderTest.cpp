@@ -12,7 +12,7 @@ static QString outcome(QByteArray const& content)
   try {
     auto const file = readOfx(content);
     for (auto const& [identifier, statement] : file.asKeyValueRange()) {
-      auto const& [kinds, balance, fault] = statement;
+      auto const& [balance, fault] = statement;
       auto const known = streamed(balance.balance) + ' ' + balance.occurredOn.toString(Qt::ISODate);
       accounts += identifier + ' ' + (fault.isEmpty() ? known : fault);
     }
