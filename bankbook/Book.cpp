@@ -145,7 +145,9 @@ Identifier wholeOf(BankAccount const& ours, Statements const& file, Identifier c
   auto const name = (presentationText(account, Yes) + u' ' + identifier).trimmed();
   auto found = file.keys();
   found.removeIf([&](Identifier const& whole) {
-    return !mayBeOne(identifier, whole) || !kindsOf(whole).contains(account.bankAccountType);
+    auto const kinds = kindsOf(whole);
+    return !mayBeOne(identifier, whole) ||
+           !(kinds.isEmpty() || kinds.contains(account.bankAccountType));
   });
   refuseIf(found.isEmpty(), Book::tr("The file has no statement that %1 could take; it has: %2."),
            name, file.keys());

@@ -84,9 +84,9 @@ QList<orv::banking::BankAccountTypes> kindsOf(Identifier const& identifier)
 {
   // A goal is money set aside.
   static QMap<QString, QList<orv::banking::BankAccountTypes>> const kinds{
-      {"CHECKING", {Chequeing}},           {"SAVINGS", {Savings, Goal}}, {"CREDITLINE", {Loan}},
-      {"MONEYMRKT", {Savings, Goal}},      {"CREDITCARD", {CreditCard}}, {"CD", {Savings, Goal}},
-      {"CMA", {Chequeing, Savings, Goal}},
+      {"CHECKING", {Chequeing}},      {"SAVINGS", {Savings, Goal}},        {"CREDITLINE", {Loan}},
+      {"MONEYMRKT", {Savings, Goal}}, {"CREDITCARD", {CreditCard}},        {"CD", {Savings, Goal}},
+      {"INVESTMENT", {Unknown}},      {"CMA", {Chequeing, Savings, Goal}},
   };
   return kinds.value(identifier.section(u' ', 1, 1));
 }

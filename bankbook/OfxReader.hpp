@@ -10,8 +10,8 @@
 /// one that is missing. The first, or the first two, stand for every account that has them.
 using Identifier = QString;
 
-/// Returns the kinds of account that the type in an identifier may stand for; none if it has no type
-/// or an unknown one.
+/// Returns the kinds of account that the type in an identifier may stand for: `Unknown`, which no
+/// account is, for an investment, and none at all if there is no type that is known.
 QList<orv::banking::BankAccountTypes> kindsOf(Identifier const& identifier);
 
 /// What a bank's statements say of an account: the balance of the latest day.
