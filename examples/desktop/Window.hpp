@@ -113,10 +113,10 @@ private:
     ask(tr("Add Account"), {{tr("&Number:"), field}, {tr("&Kind:"), box}}, [&] {
       auto const number = toAccountNumber(field->text());
       auto const kind = box->currentData().value<BankAccountTypes>();
-      auto const held = bank()->accounts().find(number);
+      auto const& held = bank()->accounts();
       auto const question = tr("The bank holds account %1 already. Change its kind to %2?")
                                 .arg(presentationText(number), presentationText(kind));
-      if (held != bank()->accounts().end() && held->second != kind &&
+      if (held.contains(number) && held.at(number) != kind &&
           QMessageBox::question(this, windowTitle(), question) != QMessageBox::Yes) {
         return false;
       }
@@ -134,11 +134,10 @@ private:
     auto* const date = new QLineEdit(orv::foundation::presentationText(QDate::currentDate()));
     ask(tr("Reconcile Account %1").arg(presentationText(account())),
         {{tr("&Balance:"), amount}, {tr("&Currency:"), currency}, {tr("&Date:"), date}}, [&] {
-          ReconciledBalance const reported{
-              toMoney(amount->text(), toCurrency(currency->text().toUpper())),
-              toDate(date->text())};
-          require(reported.occurredOn <= QDate::currentDate(), tr("The date is in the future."));
-          session_.change([&](Books& books) { reconcile(books, account(), reported); });
+          auto const balance = toMoney(amount->text(), toCurrency(currency->text().toUpper()));
+          auto const day = toDate(date->text());
+          require(day <= QDate::currentDate(), tr("The date is in the future."));
+          session_.change([&](Books& books) { reconcile(books, account(), {balance, day}); });
           return true;
         });
   }
