@@ -186,24 +186,27 @@ private:
   {
     auto const& books = session_.books();
     auto const selectedAccount = account();
+    QStringList names;
     for (auto const& name : books.banks.names()) {
-      if (model_.findItems(name.institution()).isEmpty()) {
-        auto* const row = new QStandardItem(name.institution());
-        model_.appendRow({row, new QStandardItem});
+      names += name.institution();
+    }
+    std::stable_sort(names.begin(), names.end(), QCollator()); // as the user's language does
+    for (auto* const row : model_.findItems({}, Qt::MatchContains)) {
+      if (!names.contains(row->text())) {
+        model_.removeRow(row->row());
+      }
+    }
+    for (int place = 0; place < names.size(); ++place) {
+      auto* row = model_.item(place);
+      if (row == nullptr || row->text() != names[place]) {
+        row = new QStandardItem(names[place]);
+        model_.insertRow(place, {row, new QStandardItem});
         view_->expand(row->index());
         view_->setCurrentIndex(row->index());
       }
-    }
-    model_.sort(0); // as the user's language does
-    for (auto* const row : model_.findItems({}, Qt::MatchContains)) {
       row->removeRows(0, row->rowCount());
-      BankName const name(row->text());
-      if (!books.banks.hasBank(name)) {
-        model_.removeRow(row->row());
-        continue;
-      }
-      auto const& bank = books.banks.bank(name);
-      model_.item(row->row(), 1)->setText(bank.isClosed() ? tr("closed") : QString());
+      auto const& bank = books.banks.bank(BankName(row->text()));
+      model_.item(place, 1)->setText(bank.isClosed() ? tr("closed") : QString());
       for (auto const& [number, kind] : bank.accounts()) {
         auto const [balance, date] = books.last(number);
         auto* const cell = new QStandardItem(presentationText(number));
