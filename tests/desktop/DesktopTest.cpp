@@ -139,7 +139,7 @@ TEST_F(DesktopTest, ReadsExactlyWhatIsTyped)
     EXPECT_EQ(toMoney(text, cad), Money(cad, -123450)) << text;
   }
   for (auto const* const text :
-       {"", "1.5", ",5", "1,505", "1e5", "(1", "1,5,0", "92233720368547758,08"}) {
+       {"", "1 €", "1.5", ",5", "1,505", "1e5", "(1", "1,5,0", "92233720368547758,08"}) {
     EXPECT_THROW(toMoney(text, cad), UserError) << text;
   }
   EXPECT_EQ(toDate("31.3.2026"), march);
