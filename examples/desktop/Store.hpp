@@ -95,25 +95,22 @@ public:
   {
     require(books.problems.isEmpty(), tr("Rows of the file that cannot be read would be lost."));
     execute(u"BEGIN IMMEDIATE"_s);
-    try {
-      require(value(u"PRAGMA data_version"_s) == version_,
-              tr("Another window has changed the file. Reload it, then make your change again."));
-      for (auto const& [name, bank] : books.banks) {
-        execute(u"INSERT INTO books (bank, closed) VALUES (?, ?)"_s,
-                {name.institution(), bank.isClosed()});
-        for (auto const& [number, kind] : bank.accounts()) {
-          auto const [balance, date] = books.last(number); // a text that is not there is NULL
-          execute(u"INSERT INTO books VALUES (?, NULL, ?, ?, ?, ?, ?)"_s,
-                  {name.institution(), number.integer(), toNonLocalisedText(kind),
-                   balance.currency().isoCode(), balance.minorUnits(), date.toString(Qt::ISODate)});
-        }
+    auto rollback = qScopeGuard([this] { database_.rollback(); });
+    require(value(u"PRAGMA data_version"_s) == version_,
+            tr("Another window has changed the file. Reload it, then make your change again."));
+    for (auto const& [name, bank] : books.banks) {
+      execute(u"INSERT INTO books (bank, closed) VALUES (?, ?)"_s,
+              {name.institution(), bank.isClosed()});
+      for (auto const& [number, kind] : bank.accounts()) {
+        auto const [balance, date] = books.last(number); // a text that is not there is NULL
+        execute(u"INSERT INTO books VALUES (?, NULL, ?, ?, ?, ?, ?)"_s,
+                {name.institution(), number.integer(), toNonLocalisedText(kind),
+                 balance.currency().isoCode(), balance.minorUnits(), date.toString(Qt::ISODate)});
       }
-      run(u":/save.sql"_s);
-      execute(u"COMMIT"_s);
-    } catch (...) {
-      database_.rollback();
-      throw;
     }
+    run(u":/save.sql"_s);
+    execute(u"COMMIT"_s);
+    rollback.dismiss();
   }
 
 private:
