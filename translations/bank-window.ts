@@ -23,19 +23,7 @@
 <context>
     <name>Store</name>
     <message>
-        <source>Account %1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a kind of account.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; are not an amount and a date.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Bank %1: %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -52,6 +40,30 @@
     </message>
     <message>
         <source>Rows of the file that cannot be read would be lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank of the account is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another bank has this name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another account has this number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount in minor units.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -130,10 +142,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Example, which is not kept</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>New Bank</source>
         <translation type="unfinished"></translation>
     </message>
@@ -191,6 +199,14 @@
     </message>
     <message>
         <source>closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example, which is not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The date is in the future.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -23,20 +23,8 @@
 <context>
     <name>Store</name>
     <message>
-        <source>Account %1: %2</source>
-        <translation>Konto %1: %2</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a kind of account.</source>
         <translation>„%1“ ist keine Kontoart.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; are not an amount and a date.</source>
-        <translation>„%1“ und „%2“ sind nicht Betrag und Datum.</translation>
-    </message>
-    <message>
-        <source>Bank %1: %2</source>
-        <translation>Bank %1: %2</translation>
     </message>
     <message>
         <source>Another window has changed the file. Reload it, then make your change again.</source>
@@ -53,6 +41,30 @@
     <message>
         <source>Rows of the file that cannot be read would be lost.</source>
         <translation>Zeilen der Datei, die nicht gelesen werden können, gingen verloren.</translation>
+    </message>
+    <message>
+        <source>The bank of the account is missing.</source>
+        <translation>Die Bank des Kontos fehlt.</translation>
+    </message>
+    <message>
+        <source>Another bank has this name.</source>
+        <translation>Eine andere Bank hat diesen Namen.</translation>
+    </message>
+    <message>
+        <source>Another account has this number.</source>
+        <translation>Ein anderes Konto hat diese Nummer.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount in minor units.</source>
+        <translation>„%1“ ist kein Betrag in der kleinsten Einheit der Währung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date.</source>
+        <translation>„%1“ ist kein Datum.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -130,10 +142,6 @@
         <translation>&amp;Abgleichen …</translation>
     </message>
     <message>
-        <source>Example, which is not kept</source>
-        <translation>Beispiel, das nicht aufbewahrt wird</translation>
-    </message>
-    <message>
         <source>New Bank</source>
         <translation>Neue Bank</translation>
     </message>
@@ -192,6 +200,14 @@
     <message>
         <source>closed</source>
         <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>Example, which is not saved</source>
+        <translation>Beispiel, das nicht gespeichert wird</translation>
+    </message>
+    <message>
+        <source>The date is in the future.</source>
+        <translation>Das Datum liegt in der Zukunft.</translation>
     </message>
 </context>
 </TS>

@@ -23,20 +23,8 @@
 <context>
     <name>Store</name>
     <message>
-        <source>Account %1: %2</source>
-        <translation>Compte %1&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not a kind of account.</source>
         <translation>«&#xa0;%1&#xa0;» n’est pas un type de compte.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; and &apos;%2&apos; are not an amount and a date.</source>
-        <translation>«&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» ne sont pas un montant et une date.</translation>
-    </message>
-    <message>
-        <source>Bank %1: %2</source>
-        <translation>Banque %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Another window has changed the file. Reload it, then make your change again.</source>
@@ -53,6 +41,30 @@
     <message>
         <source>Rows of the file that cannot be read would be lost.</source>
         <translation>Les lignes illisibles du fichier seraient perdues.</translation>
+    </message>
+    <message>
+        <source>The bank of the account is missing.</source>
+        <translation>La banque du compte est absente.</translation>
+    </message>
+    <message>
+        <source>Another bank has this name.</source>
+        <translation>Une autre banque porte ce nom.</translation>
+    </message>
+    <message>
+        <source>Another account has this number.</source>
+        <translation>Un autre compte porte ce numéro.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount in minor units.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un montant en unités mineures.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une date.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -130,10 +142,6 @@
         <translation>Ra&amp;pprocher…</translation>
     </message>
     <message>
-        <source>Example, which is not kept</source>
-        <translation>Exemple, qui n’est pas conservé</translation>
-    </message>
-    <message>
         <source>New Bank</source>
         <translation>Nouvelle banque</translation>
     </message>
@@ -192,6 +200,14 @@
     <message>
         <source>closed</source>
         <translation>fermée</translation>
+    </message>
+    <message>
+        <source>Example, which is not saved</source>
+        <translation>Exemple, qui n’est pas enregistré</translation>
+    </message>
+    <message>
+        <source>The date is in the future.</source>
+        <translation>La date est dans l’avenir.</translation>
     </message>
 </context>
 </TS>

@@ -41,6 +41,16 @@ public:
   }
 };
 
+/// Returns whether both books hold the same banks and balances.
+inline bool operator==(Books const& lhs, Books const& rhs)
+{
+  auto const asTuple = [](auto const& entry) {
+    return std::tuple(entry.first, entry.second.balance, entry.second.occurredOn);
+  };
+  return lhs.banks == rhs.banks &&
+         std::ranges::equal(lhs.balances, rhs.balances, {}, asTuple, asTuple);
+}
+
 /// Records what the bank of an account reported.
 ///
 /// \throws BankError if an earlier report is of a later date
@@ -48,26 +58,10 @@ inline void reconcile(Books& books, AccountNumber number, ReconciledBalance cons
 {
   auto const bank = books.banks.find(number).value();
   ReconciledBankAccount account({bank.name(), {number, bank.accounts().at(number)}},
-                                reported.balance.currency());
-  if (books.balances.contains(number)) {
-    account.reconcile(books.last(number).occurredOn, books.last(number).balance);
-  }
+                                mintar::Money(reported.balance.currency()),
+                                books.last(number).occurredOn); // that of no report is the earliest
   account.reconcile(reported.occurredOn, reported.balance);
   books.balances.insert_or_assign(number, reported);
-}
-
-/// Drops the balances of accounts that no bank holds any longer. This is all that a change of the
-/// banks does to balances: they stay when a bank is renamed or closed, and when an account changes
-/// its kind.
-inline void dropLostBalances(Books& books)
-{
-  std::set<AccountNumber> held;
-  for (auto const& [name, bank] : books.banks) {
-    for (auto const& [number, kind] : bank.accounts()) {
-      held.insert(number);
-    }
-  }
-  std::erase_if(books.balances, [&](auto const& entry) { return !held.contains(entry.first); });
 }
 
 /// Returns a text without marks of direction, which do not show, and with ordinary spaces.

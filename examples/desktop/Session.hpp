@@ -16,16 +16,20 @@ public:
   void undo() { goTo(now_ - 1); }
   void redo() { goTo(now_ + 1); }
 
-  /// Changes the books and saves them. If `edit` or saving throws, books and file stay as they are.
+  /// Changes a copy of the books, and saves it if it differs. If `edit` or saving throws, books and
+  /// file stay as they are. The balance of an account that no bank holds any longer goes.
   void change(auto const& edit)
   {
     auto changed = books();
     edit(changed);
-    dropLostBalances(changed);
-    history_.reserve(history_.size() + 1); // nothing may throw once the books are saved
-    store_.save(changed);
-    history_.erase(history_.begin() + ++now_, history_.end()); // what could be redone
-    history_.push_back(std::move(changed));
+    std::erase_if(changed.balances,
+                  [&](auto const& entry) { return !changed.banks.find(entry.first); });
+    if (changed != books()) {
+      history_.reserve(history_.size() + 1); // nothing may throw once the books are saved
+      store_.save(changed);
+      history_.erase(history_.begin() + ++now_, history_.end()); // what could be redone
+      history_.push_back(std::move(changed));
+    }
   }
 
   /// Reads the file again. Nothing can be undone then.

@@ -4,52 +4,7 @@
 
 #include <QtWidgets>
 
-/// A cell of the row of a bank, or of an account beneath it.
-class Item : public QStandardItem
-{
-public:
-  // Banks are in the order of the user's language, accounts in that of their numbers.
-  bool operator<(QStandardItem const& other) const override
-  {
-    static QCollator const collator;
-    return parent() ? text().toUInt() < other.text().toUInt() : collator(text(), other.text());
-  }
-};
-
-/// Brings the rows beneath an item in line with the entries of a map: a row shows a key, and the
-/// cells that are returned for the entry. A row that stays keeps its indexes, and one that is new
-/// takes over those of one that is gone, as when a bank has been renamed: so a view keeps what is
-/// selected and expanded.
-void updateRows(QStandardItem* parent, auto const& entries, auto const& cells)
-{
-  QMap<QString, QStandardItem*> items;
-  for (int row = 0; row < parent->rowCount(); ++row) {
-    items.insert(parent->child(row)->text(), parent->child(row));
-  }
-  auto gone = items;
-  for (auto const& [key, value] : entries) {
-    gone.remove(presentationText(key));
-  }
-  for (auto const& [key, value] : entries) {
-    auto* item = items.value(presentationText(key));
-    if (item == nullptr && gone.isEmpty()) {
-      parent->appendRow({item = new Item, new Item, new Item, new Item});
-      parent->child(item->row(), 2)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    } else if (item == nullptr) {
-      item = gone.take(gone.firstKey());
-    }
-    item->setText(presentationText(key));
-    int column = 0;
-    for (auto const& text : cells(item, key, value)) {
-      parent->child(item->row(), ++column)->setText(text);
-    }
-  }
-  for (auto* const item : gone) {
-    parent->removeRow(item->row());
-  }
-}
-
-/// A window on the books of a file. Without a name, they are an example, which is not kept.
+/// A window on the books of a file. Without a name, they are an example, which is not saved.
 class Window : public QMainWindow
 {
   Q_DECLARE_TR_FUNCTIONS(Window)
@@ -69,7 +24,6 @@ public:
     view_->setEditTriggers(QTreeView::NoEditTriggers);
     view_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     view_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(&model_, &QStandardItemModel::rowsInserted, view_, &QTreeView::expand);
     connect(view_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { run([this] { enableCommands(); }); });
 
@@ -97,9 +51,10 @@ public:
     addCommand(menu, tr("&Add…"), Qt::Key_Insert, hasBank, [this] { addAccount(); });
     addCommand(menu, tr("Re&concile…"), Qt::CTRL | Qt::Key_R, hasAccount,
                [this] { reconcileAccount(); });
-    setWindowTitle(file.isEmpty() ? tr("Example, which is not kept") : QFileInfo(file).fileName());
+    setWindowTitle(file.isEmpty() ? tr("Example, which is not saved") : QFileInfo(file).fileName());
     resize(640, 480);
     refresh();
+    view_->setCurrentIndex(model_.index(0, 0));
   }
 
 private:
@@ -119,17 +74,15 @@ private:
   // Calls a function of the registry with the selected bank.
   void change(void (BankMap::*call)(BankName const&))
   {
-    auto const name = bank()->name();
-    session_.change([&](Books& books) { (books.banks.*call)(name); });
+    session_.change([&](Books& books) { (books.banks.*call)(bank()->name()); });
   }
 
   // Removes the selected account, or else the selected bank.
   void remove()
   {
-    auto const name = bank()->name();
-    auto const number = account();
-    session_.change([&](Books& books) {
-      number == AccountNumber() ? books.banks.remove(name) : books.banks.remove(name, number);
+    session_.change([this](Books& books) {
+      auto const& name = bank()->name();
+      account() == AccountNumber() ? books.banks.remove(name) : books.banks.remove(name, account());
     });
   }
 
@@ -145,14 +98,12 @@ private:
           from.isEmpty() ? books.banks.add(Bank(to, {}, false)) : books.banks.rename(from, to);
         });
       }
-      refresh();
-      view_->setCurrentIndex(model_.findItems(presentationText(to)).first()->index());
+      return true;
     });
   }
 
   void addAccount()
   {
-    auto const bank = *this->bank();
     auto* const field = new QLineEdit;
     auto* const box = new QComboBox;
     using enum BankAccountTypes;
@@ -161,30 +112,33 @@ private:
     }
     ask(tr("Add Account"), {{tr("&Number:"), field}, {tr("&Kind:"), box}}, [&] {
       auto const number = toAccountNumber(field->text());
+      auto const kind = box->currentData().value<BankAccountTypes>();
+      auto const& held = bank()->accounts();
       auto const question = tr("The bank holds account %1 already. Change its kind to %2?")
-                                .arg(presentationText(number), box->currentText());
-      if (!bank.accounts().contains(number) ||
-          QMessageBox::question(this, windowTitle(), question) == QMessageBox::Yes) {
-        auto const kind = box->currentData().value<BankAccountTypes>();
-        session_.change([&](Books& books) { books.banks.add(bank.name(), number, kind); });
+                                .arg(presentationText(number), presentationText(kind));
+      if (held.contains(number) && held.at(number) != kind &&
+          QMessageBox::question(this, windowTitle(), question) != QMessageBox::Yes) {
+        return false;
       }
+      session_.change([&](Books& books) { books.banks.add(bank()->name(), number, kind); });
+      return true;
     });
   }
 
   void reconcileAccount()
   {
-    auto const number = account();
-    auto const last = session_.books().last(number).balance.currency().isoCode();
+    auto const last = session_.books().last(account()).balance.currency().isoCode();
     auto* const amount = new QLineEdit;
     auto* const currency =
         new QLineEdit(last.isEmpty() ? QLocale().currencySymbol(QLocale::CurrencyIsoCode) : last);
     auto* const date = new QLineEdit(orv::foundation::presentationText(QDate::currentDate()));
-    ask(tr("Reconcile Account %1").arg(presentationText(number)),
+    ask(tr("Reconcile Account %1").arg(presentationText(account())),
         {{tr("&Balance:"), amount}, {tr("&Currency:"), currency}, {tr("&Date:"), date}}, [&] {
           auto const balance = toMoney(amount->text(), toCurrency(currency->text().toUpper()));
-          session_.change([&](Books& books) {
-            reconcile(books, number, {balance, toDate(date->text())});
-          });
+          auto const day = toDate(date->text());
+          require(day <= QDate::currentDate(), tr("The date is in the future."));
+          session_.change([&](Books& books) { reconcile(books, account(), {balance, day}); });
+          return true;
         });
   }
 
@@ -194,6 +148,7 @@ private:
   {
     QDialog dialog(this);
     dialog.setWindowTitle(title);
+    dialog.setMinimumWidth(400); // shows the title
     QFormLayout form(&dialog);
     for (auto const& [label, field] : fields) {
       form.addRow(label, field);
@@ -203,8 +158,9 @@ private:
     connect(&buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     connect(&buttons, &QDialogButtonBox::accepted, &dialog, [&] {
       run([&] {
-        accept();
-        dialog.accept();
+        if (accept()) {
+          dialog.accept();
+        }
       });
     });
     dialog.exec();
@@ -224,18 +180,45 @@ private:
     }
   }
 
+  // Brings the rows in line with the books. That of a bank stays as long as the bank has its name,
+  // so that what is expanded and selected does, too. A bank that is new is selected.
   void refresh()
   {
     auto const& books = session_.books();
-    updateRows(model_.invisibleRootItem(), books.banks, [&](auto* item, auto&, Bank const& bank) {
-      updateRows(item, bank.accounts(), [&](auto*, AccountNumber number, BankAccountTypes kind) {
+    auto const selectedAccount = account();
+    QStringList names;
+    for (auto const& name : books.banks.names()) {
+      names += name.institution();
+    }
+    std::stable_sort(names.begin(), names.end(), QCollator()); // as the user's language does
+    for (auto* const row : model_.findItems({}, Qt::MatchContains)) {
+      if (!names.contains(row->text())) {
+        model_.removeRow(row->row());
+      }
+    }
+    for (int place = 0; place < names.size(); ++place) {
+      auto* row = model_.item(place);
+      if (row == nullptr || row->text() != names[place]) {
+        row = new QStandardItem(names[place]);
+        model_.insertRow(place, {row, new QStandardItem});
+        view_->expand(row->index());
+        view_->setCurrentIndex(row->index());
+      }
+      row->removeRows(0, row->rowCount());
+      auto const& bank = books.banks.bank(BankName(row->text()));
+      model_.item(place, 1)->setText(bank.isClosed() ? tr("closed") : QString());
+      for (auto const& [number, kind] : bank.accounts()) {
         auto const [balance, date] = books.last(number);
-        return QStringList{presentationText(kind), presentationText(balance),
-                           orv::foundation::presentationText(date)};
-      });
-      return QStringList(bank.isClosed() ? tr("closed") : QString());
-    });
-    model_.sort(0);
+        auto* const cell = new QStandardItem(presentationText(number));
+        auto* const amount = new QStandardItem(presentationText(balance));
+        amount->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        row->appendRow({cell, new QStandardItem(presentationText(kind)), amount,
+                        new QStandardItem(orv::foundation::presentationText(date))});
+        if (number == selectedAccount) {
+          view_->setCurrentIndex(cell->index());
+        }
+      }
+    }
     problems_->setVisible(!books.problems.isEmpty());
     problems_->setPlainText(
         tr("Nothing can be changed, or these rows, which cannot be read, would be lost:") + u'\n' +

@@ -13,4 +13,4 @@ REPLACE INTO accounts (number, bank, kind, currency, minor_units, occurred_on)
   EXCEPT SELECT number, bank, kind, currency, minor_units, occurred_on FROM accounts;
 DELETE FROM accounts WHERE number NOT IN (SELECT number FROM books WHERE number IS NOT NULL);
 DELETE FROM banks WHERE name NOT IN (SELECT bank FROM books);
-DROP TABLE books;
+DELETE FROM books;

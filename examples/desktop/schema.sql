@@ -1,3 +1,4 @@
+BEGIN IMMEDIATE;
 CREATE TABLE IF NOT EXISTS banks (
   id INTEGER PRIMARY KEY,
   name TEXT NOT NULL UNIQUE,
@@ -15,3 +16,4 @@ CREATE TABLE IF NOT EXISTS accounts (
 );
 CREATE INDEX IF NOT EXISTS accounts_of_bank ON accounts (bank);
 PRAGMA user_version = 1;
+COMMIT;

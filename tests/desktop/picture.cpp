@@ -10,8 +10,6 @@ int main(int argc, char** argv)
   Window window{QString()};
   window.resize(520, 280);
   window.show();
-  auto* const view = window.findChild<QTreeView*>();
-  view->setCurrentIndex(view->model()->index(3, 0, view->model()->index(1, 0)));
   QApplication::processEvents();
   auto const image = window.grab().toImage().convertToFormat(QImage::Format_Indexed8,
                                                              Qt::ThresholdDither | Qt::AvoidDither);
