@@ -25,13 +25,10 @@ static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount> &&
               std::is_nothrow_copy_assignable_v<ReconciledBankAccount>);
 static_assert(std::is_nothrow_copy_assignable_v<Money>&& noexcept(Money().assign(Money())));
 
-template <typename... T>
-constexpr bool areRelocatable()
-{
-  return (... && QTypeInfo<T>::isRelocatable);
-}
-static_assert(areRelocatable<BankName, BankAccount, Money, Currency, ReconciledBalance,
-                             ReconciledBankAccount>());
+static_assert(QTypeInfo<BankName>::isRelocatable && QTypeInfo<BankAccount>::isRelocatable &&
+              QTypeInfo<Money>::isRelocatable && QTypeInfo<Currency>::isRelocatable &&
+              QTypeInfo<ReconciledBalance>::isRelocatable &&
+              QTypeInfo<ReconciledBankAccount>::isRelocatable);
 
 // What a query returns refers into its object.
 template <typename T, typename Result>
