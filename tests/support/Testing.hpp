@@ -99,11 +99,10 @@ QString streamed(auto const& value)
 /// quotes.
 QStringList debugged(auto const&... values)
 {
-  QString text;
-  QString bareText;
-  (QDebug(&text) << ... << values);
-  (QDebug(&bareText).nospace().noquote() << ... << values);
-  return {text, bareText};
+  QStringList texts(2);
+  (QDebug(&texts[0]) << ... << values);
+  (QDebug(&texts[1]).nospace().noquote() << ... << values);
+  return texts;
 }
 
 /// Expects the text on a standard stream and, as one QString, on a debug stream.
