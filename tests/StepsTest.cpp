@@ -108,16 +108,11 @@ std::string firstDifference(unsigned int seed)
     };
     auto const& [text, isAllowed, logged, change, effect] = draw(operations, random);
     auto const before = map;
-    auto isMade = true;
-    takeMessages();
-    try {
-      change();
-    } catch (BankError const&) {
-      isMade = false;
-    }
-    auto isSame = isMade == isAllowed && (!isMade || takeMessages().size() == logged);
+    auto const [error, message, messages] = thrown(change);
+    auto isSame = error == (isAllowed ? "nothing" : typeid(BankError).name());
     if (isAllowed) {
       effect();
+      isSame = isSame && messages == logged;
     }
     isSame = isSame && modelOf(map) == model && (map == before) == (modelOf(before) == model);
     isSame = isSame && !map.find({});
@@ -129,9 +124,10 @@ std::string firstDifference(unsigned int seed)
     }
     if (!isSame) {
       std::ostringstream difference;
-      difference << text << (isMade ? ": made" : ": refused") << "\nbefore: " << before
-                 << "\nafter:  " << map << "\nname:   " << name << "\nbank:   " << bank
-                 << "\nto:     " << to << "\nnumber: " << number << "\nkind:   " << kind;
+      difference << text << " throws " << error << ' ' << message.toStdString()
+                 << "\nbefore: " << before << "\nafter:  " << map << "\nname:   " << name
+                 << "\nbank:   " << bank << "\nto:     " << to << "\nnumber: " << number
+                 << "\nkind:   " << kind;
       return difference.str();
     }
   }
