@@ -1,11 +1,11 @@
-#include "support/Refusal.hpp"
+#include "support/Testing.hpp"
 
 using orv::foundation::LocaleAware;
 
 TEST(BankAccount, IsShownInTheUsersLanguageExceptForItsName)
 {
-  ScopedLocale const german(
-      QLocale("de_DE")); // which groups digits, but not those of account numbers
+  // It groups digits, but not those of account numbers.
+  ScopedLocale const german(QLocale("de_DE"));
   BankAccount const account{BankName("É %1 %2"), {AccountNumber(12345), CreditCard}};
   EXPECT_EQ(presentationText(BankAccount{}, LocaleAware::No), ": 0 (Unknown)");
 

@@ -1,26 +1,17 @@
-#include "support/Refusal.hpp"
+#include "support/Testing.hpp"
 
 #include <QDir>
 
 using orv::accounting::AccountTypes;
 using orv::foundation::LocaleAware;
 
+static_assert(int(AccountTypes::Asset) == 1 && int(AccountTypes::Liability) == 4);
+
 // In the order in which texts are recognised.
 static std::tuple<int, QString, AccountTypes> const kinds[] = {
     {1, "Chequeing", AccountTypes::Asset},       {5, "Goal", AccountTypes::Asset},
     {2, "Credit Card", AccountTypes::Liability}, {3, "Loan", AccountTypes::Liability},
     {4, "Savings", AccountTypes::Asset},         {0, "Unknown", AccountTypes{}}};
-
-// What has been written when a value throws because of its kind, first to a standard, then to a
-// debug stream.
-static QString writtenBeforeKind(auto const& value)
-{
-  std::ostringstream stream;
-  EXPECT_THROW(stream << value, std::logic_error);
-  QString text;
-  EXPECT_THROW(QDebug(&text) << value, std::logic_error);
-  return QString::fromStdString(stream.str()) + text;
-}
 
 TEST(BankAccountTypes, HaveTextsAndClasses)
 {
@@ -97,30 +88,27 @@ TEST(BankAccountTypes, RefuseOtherTextsAndValues)
   }
 }
 
-// A debug stream then shows nothing, a standard stream what comes before the kind.
+// Nothing of what holds such a kind reaches a debug stream.
+static void expectNotWritten(auto const& value)
+{
+  QString text;
+  EXPECT_THROW(QDebug(&text) << value, std::logic_error);
+  EXPECT_EQ(text, "");
+}
+
 TEST(BankAccountTypes, OutsideTheEnumerationCanBeHeldButNotWritten)
 {
   BankAccount const account{pine, {hundred, noKind}};
-  QString const text("Bank (Financial Institution Name: (Pine)), Account Type (Bank Account Number "
-                     "(100), Bank Account Type (");
-  EXPECT_EQ(writtenBeforeKind(noKind), "");
-  EXPECT_EQ(writtenBeforeKind(account), text);
-  EXPECT_EQ(writtenBeforeKind(ReconciledBankAccount(account, dollars, march)),
-            "Bank Account: (" + text);
-
   Bank const bank(pine, {{AccountNumber(9), Loan}, {hundred, noKind}}, false);
-  EXPECT_EQ(writtenBeforeKind(bank),
-            "Bank: (Financial Institution Name: (Pine)), Account Numbers: (9=>Loan, 100=>");
-  EXPECT_FALSE(bank ==
-               Bank(pine, {{AccountNumber(9), Loan}, {hundred, BankAccountTypes{-1}}}, false));
+  expectNotWritten(noKind);
+  expectNotWritten(account);
+  expectNotWritten(ReconciledBankAccount(account, dollars, march));
+  expectNotWritten(bank);
   BankMap map({{pine, Bank(pine, {}, false)}});
   map.update(bank);
   EXPECT_EQ(map, BankMap({{pine, bank}}));
   map.remove(pine);
   map.add(bank);
-  EXPECT_THROW(map.remove(pine, hundred), std::logic_error);
-  EXPECT_THROW(map.add(pine, AccountNumber(), noKind), std::logic_error);
-  EXPECT_EQ(map.find(hundred), bank);
   map.add(pine, hundred, Loan); // which repairs it
   map.remove(pine, hundred);
 }

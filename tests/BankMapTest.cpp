@@ -1,8 +1,9 @@
-#include "support/Refusal.hpp"
+#include "support/Testing.hpp"
 
 namespace {
 
 BankName const none("None");
+BankName const small(elm.institution().toLower());
 
 Bank bank(BankName const& name, auto... numbers)
 {
@@ -36,7 +37,6 @@ TEST(BankMap, RefusesToBreakItsRules)
       banks(bank(elm, 100), bank(oak, 100), bank(pine, 100)), elm,
       "The account '100' is associated with the bank 'Oak %1' and cannot be used again.");
   EXPECT_REFUSAL(map.bank(none), none, "Failed to locate a bank by that name.");
-  EXPECT_REFUSAL(map.bank({}), {}, "Failed to locate a bank by that name.");
   EXPECT_REFUSED(map, map.close(none), none, "Cannot close a bank that does not exist.");
   EXPECT_REFUSED(map, map.open(none), none, "Cannot open a bank that does not exist.");
   EXPECT_REFUSED(map, map.add(none, hundred, noKind), none,
@@ -51,12 +51,9 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.add(bank(none, 3, 100, 300)), none,
                  "The account '100' is already associated with the bank 'Oak %1' and cannot be "
                  "added again.");
-  EXPECT_REFUSED(map, map.add(bank(none, 100, 300)), none,
-                 "The account '100' is already associated with the bank 'Oak %1' and cannot be "
-                 "added again.");
   EXPECT_REFUSED(map, map.remove(none), none, "Cannot remove a bank that does not exist.");
   EXPECT_REFUSED(map, map.rename(none, elm), none,
-                 "Cannot rename to 'Elm  € %2' when the bank does not exist.");
+                 "Cannot rename to 'Elm  <€> %2' when the bank does not exist.");
   EXPECT_REFUSED(map, map.rename(pine, oak), pine,
                  "Cannot rename to 'Oak %1' as it already exists.");
   EXPECT_REFUSED(map, map.rename(pine, {}), pine, "Cannot rename to an empty bank name.");
@@ -67,11 +64,8 @@ TEST(BankMap, RefusesToBreakItsRules)
   EXPECT_REFUSED(map, map.update(bank(elm, 3, 100)), elm,
                  "Cannot update the account number, 3, as the bank 'Pine' is already associated "
                  "with that number.");
-  BankMap nameless({{BankName(), Bank()}, {elm, bank(elm)}});
-  EXPECT_REFUSED(nameless, nameless.rename(elm, {}), elm,
-                 "Cannot rename to '' as it already exists.");
-  EXPECT_REFUSED(nameless, nameless.rename({}, {}), {},
-                 "Cannot rename to '' as it already exists.");
+  BankMap odd({{BankName(), Bank()}, {elm, bank(elm)}});
+  EXPECT_REFUSED(odd, odd.rename(elm, {}), elm, "Cannot rename to '' as it already exists.");
   // What the registry leaves to the bank is logged.
   EXPECT_REFUSED(map, map.close(pine), pine, "Cannot close a bank that is already closed.", 1);
   EXPECT_REFUSED(map, map.remove(elm, hundred), elm,
@@ -101,17 +95,13 @@ TEST(BankMap, AcceptsArgumentsThatReferIntoIt)
 
 TEST(BankMap, ListsAndWritesItsBanksInNameOrder)
 {
-  BankName const small("elm  € %2");
-  BankMap const map({{oak, bank(oak)}, {small, closed(small)}, {elm, bank(elm, 3)}, {{}, Bank()}});
-  EXPECT_THAT(map.names(), testing::ElementsAre(BankName(), elm, oak, small));
+  BankMap const map({{{}, Bank()}, {small, closed(small)}, {elm, bank(elm, 3)}});
+  EXPECT_THAT(map.names(), testing::ElementsAre(BankName(), elm, small));
   EXPECT_EQ(streamed(map),
             "Bank Map (Financial Institution Name: ()=>" + streamed(Bank()) +
-                ", Financial Institution Name: (Elm  € %2)=>" + streamed(map.bank(elm)) +
-                ", Financial Institution Name: (Oak %1)=>" + streamed(map.bank(oak)) +
-                ", Financial Institution Name: (elm  € %2)=>" + streamed(map.bank(small)) + ")");
-  std::ostringstream stream;
-  stream << BankMap() << false;
-  EXPECT_EQ(stream.str(), "Bank Map ()0");
+                ", Financial Institution Name: (Elm  <€> %2)=>" + streamed(map.bank(elm)) +
+                ", Financial Institution Name: (elm  <€> %2)=>" + streamed(map.bank(small)) + ")");
+  EXPECT_EQ(streamed(BankMap()), "Bank Map ()");
 }
 
 TEST(BankMap, EqualsOneOfEqualBanksUnderTheSameNames)
@@ -121,5 +111,5 @@ TEST(BankMap, EqualsOneOfEqualBanksUnderTheSameNames)
   expectUnequal(one, BankMap());
   expectUnequal(one, BankMap({{elm, bank(elm, 9)}, {oak, bank(oak)}}));
   expectUnequal(one, BankMap({{elm, closed(elm, 9)}}));
-  expectUnequal(one, BankMap({{BankName("elm"), bank(BankName("elm"), 9)}}));
+  expectUnequal(one, BankMap({{small, bank(small, 9)}}));
 }

@@ -15,23 +15,18 @@ using Comparison = bool (*)(T const&, T const&);
           &orv::banking::operator== };
 
 template <typename... T>
-constexpr bool areMovedWithoutThrowing()
-{
-  return (... && (std::is_nothrow_move_constructible_v<T> && std::is_nothrow_move_assignable_v<T>));
-}
+constexpr bool areMovedWithoutThrowing = (... && (std::is_nothrow_move_constructible_v<T> &&
+                                                  std::is_nothrow_move_assignable_v<T>));
 static_assert(areMovedWithoutThrowing<BankName, BankAccount, Bank, BankMap, Money,
-                                      ReconciledBalance, ReconciledBankAccount>());
+                                      ReconciledBalance, ReconciledBankAccount>);
 static_assert(std::is_nothrow_copy_constructible_v<ReconciledBankAccount> &&
               std::is_nothrow_copy_assignable_v<ReconciledBankAccount>);
 static_assert(std::is_nothrow_copy_assignable_v<Money>&& noexcept(Money().assign(Money())));
 
 template <typename... T>
-constexpr bool areRelocatable()
-{
-  return (... && QTypeInfo<T>::isRelocatable);
-}
+constexpr bool areRelocatable = (... && QTypeInfo<T>::isRelocatable);
 static_assert(areRelocatable<BankName, BankAccount, Money, Currency, ReconciledBalance,
-                             ReconciledBankAccount>());
+                             ReconciledBankAccount>);
 
 // What a query returns refers into its object.
 template <typename T, typename Result>
