@@ -54,8 +54,10 @@ Identifier toIdentifier(Words const& words, qsizetype first)
 // Whether both may stand for one account: one of them begins the other. An empty one may be any.
 bool mayBeOne(Identifier const& one, Identifier const& other)
 {
-  return one.isEmpty() || (one + u' ').startsWith(other + u' ') ||
-         (other + u' ').startsWith(one + u' ');
+  auto const begins = [](Identifier const& shorter, Identifier const& longer) {
+    return longer.startsWith(shorter) && (longer + u' ')[shorter.size()] == u' ';
+  };
+  return one.isEmpty() || begins(one, other) || begins(other, one);
 }
 
 // The account with the number; of the kind `Unknown` if no bank holds it.

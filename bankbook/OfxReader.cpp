@@ -111,6 +111,7 @@ Statements readOfx(QByteArray const& bytes)
       "(CURDEF|B(?:ANK|RANCH|ROKER)ID|ACCT(?:ID|TYPE|KEY)|LEDGERBAL/(?:BALAMT|DTASOF)))$"));
   // Where all that may stand is known, text in any other element has been torn from a value.
   static QRegularExpression const narrow(QStringLiteral("STMTRS/(?:LEDGERBAL|[A-Z]+ACCTFROM)/$"));
+  static QRegularExpression const empty(QStringLiteral("^$"));
   QList<Values> statements;
   Values status;      // which the bank gives the statement that follows
   QString path(u'/'); // of the elements that hold the tag
@@ -167,7 +168,6 @@ Statements readOfx(QByteArray const& bytes)
   Statements result;
   for (auto const& values : statements) {
     QStringList whole{values["ACCTID"], values["ACCTTYPE"], values["BANKID"]};
-    static QRegularExpression const empty(QStringLiteral("^$"));
     whole.replaceInStrings(QStringLiteral(" "), QString()).replaceInStrings(empty, "-");
     auto& [latest, fault] = result[whole.join(u' ')];
     try {
